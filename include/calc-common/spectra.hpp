@@ -1,0 +1,171 @@
+#ifndef CALC_COMMON_SPECTRA_HPP
+#define CALC_COMMON_SPECTRA_HPP
+
+/// @file
+/// Spectral containers: frequency grids, spectra and tone identities.
+
+#include <calc-common/export.hpp>
+#include <calc-common/frame.hpp>
+
+#include <boost/shared_ptr.hpp>
+
+#include <cstddef>
+#include <vector>
+
+/// The ordered frequencies (Hz) on which a spectrum lives. A range is first of all an identity:
+/// containers are on the same grid only when they hold the very same object. A narrowband range
+/// (df > 0) computes its frequencies from a start and a step; a listed range stores them.
+struct VARNO_CALC_COMMON_EXPORT frequency_range_t {
+    std::vector<double> frequencies; ///< listed frequencies in Hz; empty for a narrowband range
+    double f_start;                  ///< first narrowband frequency in Hz, 0 otherwise
+    double f_end;                    ///< last narrowband frequency asked for in Hz, 0 otherwise
+    double df;                       ///< narrowband step in Hz, 0 otherwise
+    std::size_t count;               ///< number of frequencies (held by itself for narrowband)
+
+    /// An empty range: no frequency, narrowband in the sense of isNB().
+    frequency_range_t();
+
+    /// Regular grid f_start + k*df (Hz) for every k that is not past f_end. The count
+    /// (f_end - f_start)/df + 1 is truncated; boost::numeric::negative_overflow or
+    /// positive_overflow pass through when it does not fit a size_t.
+    static boost::shared_ptr<frequency_range_t> create_nb(double f_start, double f_end, double df);
+
+    /// Listed range of `count` frequencies, all 0 Hz, for discrete tones the caller fills in.
+    static boost::shared_ptr<frequency_range_t> create_dt(std::size_t const& count);
+
+    /// Appends a frequency in Hz to the list (no sorting, no check).
+    void add_frequency(double const& frequency);
+
+    /// Frequency in Hz at `index`: computed when df is tolerantly above 0, looked up otherwise.
+    /// No range check.
+    double operator()(std::size_t const& index) const;
+    /// Same as operator().
+    double at(std::size_t const& index) const;
+
+    /// Number of frequencies, the field `count`.
+    std::size_t size() const;
+
+    /// True when no list is stored, except for the third-octave grid itself.
+    bool isNB() const;
+
+    /// Same numbers, with tolerance: narrowband ranges compare start, end and step; listed
+    /// ranges compare count and every entry. A narrowband and a listed range are never equal.
+    bool equals(boost::shared_ptr<frequency_range_t> other) const;
+
+    /// Deep copy: equal numbers, but a different grid for energy addition.
+    boost::shared_ptr<frequency_range_t> clone() const;
+};
+
+/// Nominal centre frequencies (Hz) of third-octave bands 1 to 50; band 17 is 50 Hz.
+extern VARNO_CALC_COMMON_EXPORT double const tob_fc_nominal[50];
+
+/// Lower edges (Hz) of third-octave bands 1 to 50, followed by the upper edge of band 50.
+extern VARNO_CALC_COMMON_EXPORT double const tob_fl[51];
+
+/// The shared 24-band third-octave grid, 50 Hz to 10 kHz. Treat it as constant.
+extern VARNO_CALC_COMMON_EXPORT boost::shared_ptr<frequency_range_t> tob_frequency_range_ptr;
+
+/// Identity of a discrete tone: its band on the holding spectrum's grid, its exact frequency
+/// and level, and what produced it (blade-passing harmonic, open-rotor interaction harmonics,
+/// engine order or `ni` order; the kind is whichever identifying field is non-zero).
+struct VARNO_CALC_COMMON_EXPORT tone_id_t {
+    int band_index;      ///< index of the tone's band on the holding spectrum's grid
+    double bpf_harmonic; ///< blade-passing frequency harmonic number (whole numbers)
+    int cror_harmonic_1; ///< first open-rotor interaction harmonic number
+    int cror_harmonic_2; ///< second open-rotor interaction harmonic number
+    int engine_order;    ///< engine order
+    int ni_order;        ///< `ni` order; such tones never answer spectrum_t::frequency_at
+    double frequency;    ///< exact tone frequency, Hz
+    double level;        ///< tone level, dB
+
+    /// All fields 0.
+    tone_id_t();
+
+    /// Harmonic of the blade-passing frequency (frequency in Hz, level in dB).
+    static tone_id_t create_bpf(int band_index, double bpf_harmonic, double frequency,
+                                double level);
+    /// Interaction harmonic (h1, h2) of a contra-rotating open rotor.
+    static tone_id_t create_cror(int band_index, int cror_harmonic_1, int cror_harmonic_2,
+                                 double frequency, double level);
+    /// Engine order tone.
+    static tone_id_t create_eo(int band_index, int engine_order, double frequency, double level);
+    /// Tone of the `ni` kind.
+    static tone_id_t create_ni(int band_index, int ni_order, double frequency, double level);
+
+    /// A copy equal in every field.
+    tone_id_t clone() const;
+
+    /// Same producer: harmonic numbers and orders match (bpf harmonic tolerantly); band,
+    /// frequency and level take no part, so a Doppler-shifted tone is still the same tone.
+    bool equals(tone_id_t const& other) const;
+};
+
+/// Levels in dB over a frequency range, one per frequency, with the discrete tones that lie in
+/// it. A level of 0.0 means no sound in that band.
+struct VARNO_CALC_COMMON_EXPORT spectrum_t {
+    boost::shared_ptr<frequency_range_t> frequency_range; ///< the grid, usually shared
+    bool owns_frequency_range;    ///< set once the spectrum holds a private copy of its grid
+    std::vector<double> values;   ///< levels in dB, in the order of the range
+    std::vector<tone_id_t> tones; ///< discrete tones, in order of addition
+
+    /// No range, no values, no tones.
+    spectrum_t();
+
+    /// Silent spectrum (every level 0.0) on a shared range.
+    explicit spectrum_t(boost::shared_ptr<frequency_range_t> range);
+
+    /// Silent spectrum on the third-octave grid.
+    static boost::shared_ptr<spectrum_t> create_tob();
+
+    /// Prepares the slot `*holder` for a new fill on `range` without reallocating: an empty
+    /// slot gets a new spectrum, a spectrum already on that very range is cleared, and a
+    /// spectrum on another range is left untouched (it is not rebound). Throws varno_calc_error
+    /// when `holder` is null.
+    static void reserve(boost::shared_ptr<spectrum_t>* holder,
+                        boost::shared_ptr<frequency_range_t> range);
+
+    /// reserve() on the third-octave grid.
+    static void reserve_tob(boost::shared_ptr<spectrum_t>* holder);
+
+    /// Energy sum of two spectra into `result`, which may be one of them. Levels at or below
+    /// 1 dB carry no energy, and a sum at or below 1 dB gives 0.0. All three must hold the very
+    /// same range object, or varno_calc_error is thrown before anything is written. Tone lists
+    /// are left as they are.
+    static void log_add(boost::shared_ptr<spectrum_t> a, boost::shared_ptr<spectrum_t> b,
+                        boost::shared_ptr<spectrum_t> result);
+
+    /// Appends a frequency (Hz) to the shared range and a level (dB) to the values.
+    void add_value(double const& frequency, double const& level);
+
+    /// Multiplies every level by a plain factor (arithmetic on dB numbers, not a gain).
+    void multiply(double const& factor);
+
+    /// Sets every level to `level` dB.
+    void fill_with(double const& level);
+
+    /// Level in dB at `index`, no range check.
+    double& at(std::size_t const& index);
+    /// Same as at().
+    double& operator()(std::size_t const& index);
+
+    /// Frequency in Hz at `index`: that of the first tone recorded in this band (other than an
+    /// `ni` tone), else the grid's.
+    double frequency_at(std::size_t const& index) const;
+
+    /// Silences every level and forgets the tones; does nothing on an empty or zero-count range.
+    void clear();
+
+    /// Copy of levels and tones on the same shared range, so still addable to this one.
+    boost::shared_ptr<spectrum_t> clone() const;
+
+    /// Copies levels and tones into `target`, leaving its range alone. Always returns false.
+    bool copy_to(boost::shared_ptr<spectrum_t> target) const;
+
+    /// Sets every level below 0.001 dB to 0.0 (raises nothing, despite the name).
+    void assert_non_negative();
+
+    /// Replaces the shared range by a private copy, once.
+    void give_frequency_range_ownership();
+};
+
+#endif // CALC_COMMON_SPECTRA_HPP

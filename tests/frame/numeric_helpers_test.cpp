@@ -1,0 +1,48 @@
+#include "frame/numeric_helpers.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace VARNO::detail;
+
+TEST(TolerantComparison, DifferencesWithinRoundingCountAsEqual) {
+    double const one_ulp_up = std::nextafter(1.0, 2.0);
+    EXPECT_TRUE(tolerantly_equal(1.0, one_ulp_up));
+    EXPECT_FALSE(tolerantly_above(one_ulp_up, 1.0));
+    EXPECT_TRUE(tolerantly_at_most(one_ulp_up, 1.0));
+    EXPECT_TRUE(tolerantly_at_least(1.0, one_ulp_up));
+
+    EXPECT_TRUE(tolerantly_above(1.0 + 1e-12, 1.0));
+    EXPECT_TRUE(tolerantly_below(1.0, 1.0 + 1e-12));
+    EXPECT_FALSE(tolerantly_equal(1.0, 1.0 + 1e-12));
+
+    // Near zero the tolerance vanishes: the smallest positive number is above 0.
+    EXPECT_TRUE(tolerantly_above(std::numeric_limits<double>::denorm_min(), 0.0));
+    EXPECT_TRUE(tolerantly_below(-1e-300, 0.0));
+}
+
+TEST(LevelAddition, CutsAtOneDecibel) {
+    EXPECT_NEAR(add_levels(50.0, 50.0), 53.0103, 1e-4);
+    EXPECT_EQ(add_levels(1.0, 0.0), 0.0);
+    EXPECT_EQ(add_levels(1.0, 1.0), 0.0);
+    EXPECT_DOUBLE_EQ(add_levels(1.5, 1.0), 1.5);
+    EXPECT_DOUBLE_EQ(add_levels(-20.0, 60.0), 60.0);
+    EXPECT_DOUBLE_EQ(add_levels(std::nan(""), 40.0), 40.0);
+    // Just above the cut a level carries its energy of about 1.26.
+    EXPECT_NEAR(level_to_energy(std::nextafter(1.0, 2.0)), 1.2589, 1e-4);
+}
+
+TEST(BandArithmetic, GridIndicesAndEdges) {
+    EXPECT_EQ(band_number(50.0), 17);
+    EXPECT_EQ(tob_index(50.0), 0);
+    EXPECT_EQ(tob_index(10000.0), 23);
+    EXPECT_EQ(tob_index(1000.0), 13);
+    // 10*log10(f) + 0.5 is truncated: 56.2 Hz (just above the 50/63 edge) is band 18.
+    EXPECT_EQ(band_number(56.3), 18);
+    EXPECT_EQ(band_number(56.2), 17);
+    EXPECT_NEAR(band_lower_edge(30), 891.250938133746, 1e-9);
+    EXPECT_NEAR(band_upper_edge(30), 1122.01845430196, 1e-9);
+    EXPECT_NEAR(sea_level_speed_of_sound, 340.294, 1e-3);
+}
