@@ -99,6 +99,20 @@ inline double band_upper_edge(int band) {
     return std::pow(10.0, (2.0 * band + 1.0) / 20.0);
 }
 
+/// How a line's energy is shared by the two bands that meet at `edge_hz` when it falls in the
+/// overlap from edge/1.04 to edge*1.04: `lower` goes to the band below, `upper` to the one above.
+struct edge_shares {
+    double lower;
+    double upper;
+};
+
+inline edge_shares shares_across_edge(double frequency_hz, double edge_hz) {
+    double const overlap_low = edge_hz / band_edge_overlap;
+    double const overlap_high = edge_hz * band_edge_overlap;
+    double const width = overlap_high - overlap_low;
+    return {(overlap_high - frequency_hz) / width, (frequency_hz - overlap_low) / width};
+}
+
 // ---- Air -----------------------------------------------------------------------------------
 
 /// Speed of sound at sea level in the standard atmosphere, m/s (about 340.294).

@@ -46,3 +46,14 @@ TEST(BandArithmetic, GridIndicesAndEdges) {
     EXPECT_NEAR(band_upper_edge(30), 1122.01845430196, 1e-9);
     EXPECT_NEAR(sea_level_speed_of_sound, 340.294, 1e-3);
 }
+
+TEST(BandArithmetic, EnergyIsSharedLinearlyAcrossAnEdgeOverlap) {
+    double const edge = band_upper_edge(30);
+    edge_shares const at_edge = shares_across_edge(edge, edge);
+    // At the edge itself (a geometric centre) the shares are not quite one half each.
+    EXPECT_NEAR(at_edge.lower, (1.04 - 1.0) / (1.04 - 1.0 / 1.04), 1e-12);
+    EXPECT_NEAR(at_edge.lower + at_edge.upper, 1.0, 1e-15);
+    edge_shares const at_bottom = shares_across_edge(edge / 1.04, edge);
+    EXPECT_NEAR(at_bottom.lower, 1.0, 1e-15);
+    EXPECT_NEAR(at_bottom.upper, 0.0, 1e-15);
+}
