@@ -31,3 +31,14 @@ execute_process(COMMAND ${PKG_CONFIG} --variable=libdir varno-calc-common
 run_step(${CXX} ${CONSUMER_DIR}/main.cpp ${pc_flags} -Wl,-rpath,${libdir}
          -o ${WORK_DIR}/consumer-pkg-config)
 run_step(${WORK_DIR}/consumer-pkg-config)
+
+# Internal routines must stay out of the shared library's dynamic symbol table.
+find_program(NM nm REQUIRED)
+file(GLOB installed_library ${prefix}/lib*/libvarno-calc-common.so ${prefix}/lib/*/libvarno-calc-common.so)
+execute_process(COMMAND ${NM} -D -C --defined-only ${installed_library} OUTPUT_VARIABLE symbols)
+if(symbols MATCHES "VARNO::detail")
+  message(FATAL_ERROR "internal VARNO::detail symbols are exported")
+endif()
+if(NOT symbols MATCHES "spectrum_t::log_add")
+  message(FATAL_ERROR "the public interface is not exported")
+endif()
