@@ -2,7 +2,7 @@
 #define CALC_COMMON_SPECTRA_HPP
 
 /// @file
-/// Spectral containers: frequency grids, spectra and tone identities.
+/// Spectral containers: frequency grids, spectra, tone identities and noise fields.
 
 #include <calc-common/export.hpp>
 #include <calc-common/frame.hpp>
@@ -166,6 +166,86 @@ struct VARNO_CALC_COMMON_EXPORT spectrum_t {
 
     /// Replaces the shared range by a private copy, once.
     void give_frequency_range_ownership();
+};
+
+/// The directivity axis of a noise field: one entry per column in each of three parallel lists.
+struct VARNO_CALC_COMMON_EXPORT noise_field_column_range_t {
+    std::vector<double> distances;   ///< distance of each column (m)
+    std::vector<double> angles;      ///< directivity angle of each column (degrees)
+    std::vector<double> column_data; ///< a further value per column, stored and copied only
+
+    /// No columns.
+    noise_field_column_range_t();
+
+    /// `count` columns; each list is copied from its pointer, or all zeros for a null pointer.
+    noise_field_column_range_t(std::size_t count, double* distances, double* angles,
+                               double* column_data);
+
+    /// Columns at the given angles, with zero distances and data. The count goes through a
+    /// 32-bit int.
+    static boost::shared_ptr<noise_field_column_range_t> from_angles(std::vector<double>& angles);
+
+    /// Number of columns: the length of `angles`.
+    std::size_t size() const;
+
+    /// Deep copy of the three lists.
+    boost::shared_ptr<noise_field_column_range_t> clone() const;
+};
+
+/// Levels in dB over frequency and directivity: the directional result of a source, one
+/// spectrum per column in one frequency-major block. A level of 0.0 means no sound.
+struct VARNO_CALC_COMMON_EXPORT noise_field_t {
+    boost::shared_ptr<frequency_range_t> frequency_range;       ///< frequency axis, usually shared
+    bool owns_frequency_range;                                  ///< never set by this record
+    boost::shared_ptr<noise_field_column_range_t> column_range; ///< directivity axis
+    bool owns_column_range;       ///< set once the field holds a private copy of its columns
+    std::vector<double> values;   ///< levels in dB; frequency i, column j at i*columns + j
+    std::vector<tone_id_t> tones; ///< discrete tones, in order of addition
+
+    /// No axes, no values, no tones.
+    noise_field_t();
+
+    /// Silent field (every level 0.0) on shared axes.
+    noise_field_t(boost::shared_ptr<frequency_range_t> range,
+                  boost::shared_ptr<noise_field_column_range_t> columns);
+
+    /// Silent field on the third-octave grid.
+    static boost::shared_ptr<noise_field_t>
+    create_tob(boost::shared_ptr<noise_field_column_range_t> columns);
+
+    /// Level in dB at a frequency index and a column, no range check.
+    double& at(std::size_t const& frequency_index, std::size_t const& column);
+    /// Same as at().
+    double& operator()(std::size_t const& frequency_index, std::size_t const& column);
+
+    /// Distance of a column, a reference into the (possibly shared) column range.
+    double& distance_at(std::size_t const& column);
+
+    /// Appends a tone to the list.
+    void add_tone(tone_id_t tone);
+
+    /// Energy sum of two fields into `result`, which may be one of them, with the level rules
+    /// of spectrum_t::log_add. The frequency ranges must be the very same object; the column
+    /// ranges need only have the same size. Otherwise varno_calc_error is thrown before
+    /// anything is written. Tone lists are left as they are.
+    static void log_add(boost::shared_ptr<noise_field_t> a, boost::shared_ptr<noise_field_t> b,
+                        boost::shared_ptr<noise_field_t> result);
+
+    /// Silences every level and forgets the tones; does nothing when an axis is missing or
+    /// empty.
+    void clear();
+
+    /// Copy of levels and tones on the same shared axes.
+    boost::shared_ptr<noise_field_t> clone() const;
+
+    /// Copies levels and tones into `target`, leaving its axes alone. Always returns true.
+    bool copy_to(boost::shared_ptr<noise_field_t> target) const;
+
+    /// Sets every level below 0.001 dB to 0.0 (raises nothing, despite the name).
+    void assert_non_negative();
+
+    /// Replaces the shared column range by a private copy, once.
+    void give_column_range_ownership();
 };
 
 #endif // CALC_COMMON_SPECTRA_HPP
