@@ -52,7 +52,7 @@ std::size_t first_band_of_whole_lines(frequency_range_t const& range) {
 // resolution stay silent.
 band_span bands_of_spread_lines(frequency_range_t const& range, int line_count) {
     double const half_line = range.df / 2.0;
-    double const narrowest = (line_count + 1) * range.df;
+    double const narrowest = (static_cast<double>(line_count) + 1.0) * range.df;
     band_span span{0, band_count};
     for (std::size_t band = 0; band < band_count; ++band) {
         if (tolerantly_above(band_upper(band) - band_lower(band), narrowest) &&

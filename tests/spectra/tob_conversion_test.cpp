@@ -1,5 +1,6 @@
 #include <calc-common/spectra.hpp>
 
+#include "narrowband_fixtures.hpp"
 #include "spectra/tob_conversion.hpp"
 #include "support/allocation_counter.hpp"
 
@@ -14,22 +15,11 @@ namespace {
 // no cut, so a silent 0.0 dB line would still add an energy of 1).
 constexpr double inaudible = -400.0;
 
-boost::shared_ptr<spectrum_t> narrowband(double f_start, double f_end, double df, double level) {
-    boost::shared_ptr<spectrum_t> spectrum =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_nb(f_start, f_end, df));
-    spectrum->fill_with(level);
-    return spectrum;
-}
-
 // Line k of a narrowband spectrum at `level`.
 void set_line(spectrum_t& spectrum, double frequency, double level) {
     frequency_range_t const& range = *spectrum.frequency_range;
     spectrum.at(static_cast<std::size_t>(std::lround((frequency - range.f_start) / range.df))) =
         level;
-}
-
-double band_width(std::size_t band) {
-    return tob_fl[17 + band] - tob_fl[16 + band];
 }
 
 } // namespace
