@@ -2,7 +2,8 @@
 #define CALC_COMMON_SPECTRA_HPP
 
 /// @file
-/// Spectral containers: frequency grids, spectra and tone identities.
+/// Spectral containers: frequency grids, spectra, tone identities, noise fields and the
+/// conversion of narrowband spectra and lists of lines to third-octave bands.
 
 #include <calc-common/export.hpp>
 #include <calc-common/frame.hpp>
@@ -167,5 +168,178 @@ struct VARNO_CALC_COMMON_EXPORT spectrum_t {
     /// Replaces the shared range by a private copy, once.
     void give_frequency_range_ownership();
 };
+
+/// The directivity axis of a noise field: one entry per column in each of three parallel lists.
+struct VARNO_CALC_COMMON_EXPORT noise_field_column_range_t {
+    std::vector<double> distances;   ///< distance of each column (m)
+    std::vector<double> angles;      ///< directivity angle of each column (degrees)
+    std::vector<double> column_data; ///< a further value per column, stored and copied only
+
+    /// No columns.
+    noise_field_column_range_t();
+
+    /// `count` columns; each list is copied from its pointer, or all zeros for a null pointer.
+    noise_field_column_range_t(std::size_t count, double* distances, double* angles,
+                               double* column_data);
+
+    /// Columns at the given angles, with zero distances and data. The count goes through a
+    /// 32-bit int.
+    static boost::shared_ptr<noise_field_column_range_t> from_angles(std::vector<double>& angles);
+
+    /// Number of columns: the length of `angles`.
+    std::size_t size() const;
+
+    /// Deep copy of the three lists.
+    boost::shared_ptr<noise_field_column_range_t> clone() const;
+};
+
+/// Levels in dB over frequency and directivity: the directional result of a source, one
+/// spectrum per column in one frequency-major block. A level of 0.0 means no sound.
+struct VARNO_CALC_COMMON_EXPORT noise_field_t {
+    boost::shared_ptr<frequency_range_t> frequency_range;       ///< frequency axis, usually shared
+    bool owns_frequency_range;                                  ///< never set by this record
+    boost::shared_ptr<noise_field_column_range_t> column_range; ///< directivity axis
+    bool owns_column_range;       ///< set once the field holds a private copy of its columns
+    std::vector<double> values;   ///< levels in dB; frequency i, column j at i*columns + j
+    std::vector<tone_id_t> tones; ///< discrete tones, in order of addition
+
+    /// No axes, no values, no tones.
+    noise_field_t();
+
+    /// Silent field (every level 0.0) on shared axes.
+    noise_field_t(boost::shared_ptr<frequency_range_t> range,
+                  boost::shared_ptr<noise_field_column_range_t> columns);
+
+    /// Silent field on the third-octave grid.
+    static boost::shared_ptr<noise_field_t>
+    create_tob(boost::shared_ptr<noise_field_column_range_t> columns);
+
+    /// Level in dB at a frequency index and a column, no range check.
+    double& at(std::size_t const& frequency_index, std::size_t const& column);
+    /// Same as at().
+    double& operator()(std::size_t const& frequency_index, std::size_t const& column);
+
+    /// Distance of a column, a reference into the (possibly shared) column range.
+    double& distance_at(std::size_t const& column);
+
+    /// Appends a tone to the list.
+    void add_tone(tone_id_t tone);
+
+    /// Energy sum of two fields into `result`, which may be one of them, with the level rules
+    /// of spectrum_t::log_add. The frequency ranges must be the very same object; the column
+    /// ranges need only have the same size. Otherwise varno_calc_error is thrown before
+    /// anything is written. Tone lists are left as they are.
+    static void log_add(boost::shared_ptr<noise_field_t> a, boost::shared_ptr<noise_field_t> b,
+                        boost::shared_ptr<noise_field_t> result);
+
+    /// Silences every level and forgets the tones; does nothing when an axis is missing or
+    /// empty.
+    void clear();
+
+    /// Copy of levels and tones on the same shared axes.
+    boost::shared_ptr<noise_field_t> clone() const;
+
+    /// Copies levels and tones into `target`, leaving its axes alone. Always returns true.
+    bool copy_to(boost::shared_ptr<noise_field_t> target) const;
+
+    /// Sets every level below 0.001 dB to 0.0 (raises nothing, despite the name).
+    void assert_non_negative();
+
+    /// Replaces the shared column range by a private copy, once.
+    void give_column_range_ownership();
+};
+
+/// How the energy of a narrowband line reaches the third-octave bands.
+enum nbtob_conversion_method : int {
+    nbtob_line_band = 0,    ///< all of it to the one band that holds the line
+    nbtob_butterworth = 1,  ///< to every band, weighted by a third-order band-pass curve
+    nbtob_width_overlap = 2 ///< to the bands the line's width overlaps, by the overlap
+};
+
+/// Converts a narrowband spectrum, or a list of discrete lines, to the third-octave grid.
+/// `output` must be on tob_frequency_range_ptr and `input` must not be. A narrowband input
+/// (df not 0) is summed by `method`; a band is filled only if it spans more than `line_count`
+/// lines (methods 1 and 2), and a `line_count` of 3 selects VARNO::TrrApi::NbToTob instead.
+/// A listed input (df 0) is a list of lines, shared across band edges within the 1.04 overlap;
+/// `method` and `line_count` are then unused. Narrowband bands give 10*log10(energy) with no
+/// cut (a band no line reaches stays 0.0); listed lines give 0.0 for energies at or below 1.
+/// Returns 0, or 1 for a wrong grid (output untouched) or an unknown method (output zeroed).
+VARNO_CALC_COMMON_EXPORT int convert_spectrum_to_tob(boost::shared_ptr<spectrum_t> input,
+                                                     boost::shared_ptr<spectrum_t> output,
+                                                     nbtob_conversion_method method,
+                                                     int line_count);
+
+/// convert_spectrum_to_tob() for every column of a field. `output` must have the input's
+/// number of columns.
+VARNO_CALC_COMMON_EXPORT int convert_noise_field_to_tob(boost::shared_ptr<noise_field_t> input,
+                                                        boost::shared_ptr<noise_field_t> output,
+                                                        nbtob_conversion_method method,
+                                                        int line_count);
+
+namespace acoustics {
+
+class OctaveBandFilterBank;
+
+/// One fractional-octave band-pass filter of a bank: band number, exact and nominal centre
+/// frequencies and band edges, all in Hz.
+class VARNO_CALC_COMMON_EXPORT OctaveBandFilter {
+public:
+    /// Band `band_index` of `bank` (the bank's ratio and bands per octave must be set).
+    OctaveBandFilter(OctaveBandFilterBank const* bank, int band_index);
+    virtual ~OctaveBandFilter();
+
+    OctaveBandFilterBank const* bank; ///< the bank it belongs to, not owned
+    int band_index;                   ///< band number x; x = 30 is centred on 1 kHz
+    double midband_frequency;         ///< exact centre frequency, Hz
+    double nominal_frequency;         ///< rounded centre frequency, Hz
+    double lower_edge;                ///< lower band edge, Hz
+    double upper_edge;                ///< upper band edge, Hz
+};
+
+/// A bank of fractional-octave band-pass filters with constant relative bandwidth, referred to
+/// 1 kHz, covering f_low to f_high. Its filters point back to it, so it is neither copied nor
+/// moved.
+class VARNO_CALC_COMMON_EXPORT OctaveBandFilterBank {
+public:
+    /// `bands_per_octave` bands per octave (b), Butterworth `order`, octave ratio 2 when
+    /// `base_two`, else 10^0.3.
+    OctaveBandFilterBank(std::size_t bands_per_octave, double f_low, double f_high,
+                         std::size_t order, bool base_two);
+    virtual ~OctaveBandFilterBank();
+    OctaveBandFilterBank(OctaveBandFilterBank const&) = delete;
+    OctaveBandFilterBank& operator=(OctaveBandFilterBank const&) = delete;
+
+    double octave_ratio;                   ///< G: 2 or 10^0.3
+    double reference_frequency;            ///< 1000 Hz
+    std::size_t bands_per_octave;          ///< b
+    std::size_t order;                     ///< Butterworth order
+    double q_design;                       ///< Q that gives each band its nominal noise bandwidth
+    std::vector<OctaveBandFilter> filters; ///< one per band number, ascending
+};
+
+} // namespace acoustics
+
+namespace VARNO {
+namespace TrrApi {
+
+/// Third-octave levels (50 Hz to 10 kHz) of a narrowband spectrum through banks of band-pass
+/// filters (1/12, 1/3 and 1/1 octave, base ten, so that the third-octave bands are those of
+/// the grid). Method 0 gives ideal rectangular bands, 2 shares each line by the part of its
+/// width df that a band covers, and any other a Butterworth response of order 3 whose noise
+/// bandwidth is the band's width. A band narrower than ten lines is not resolved: it takes the
+/// part of its octave band's energy that the lines' widths place in it. Levels at or below
+/// 1 dB carry no energy, and bands at or below 1 in energy are 0.0. `output` must be on the
+/// third-octave grid; its values are replaced.
+VARNO_CALC_COMMON_EXPORT void NbToTob(boost::shared_ptr<spectrum_t> input,
+                                      boost::shared_ptr<spectrum_t> output,
+                                      nbtob_conversion_method method);
+
+/// NbToTob() for every column of a field; `output` must have the input's number of columns.
+VARNO_CALC_COMMON_EXPORT void NbToTob(boost::shared_ptr<noise_field_t> input,
+                                      boost::shared_ptr<noise_field_t> output,
+                                      nbtob_conversion_method method);
+
+} // namespace TrrApi
+} // namespace VARNO
 
 #endif // CALC_COMMON_SPECTRA_HPP

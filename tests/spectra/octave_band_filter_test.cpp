@@ -1,0 +1,77 @@
+#include <calc-common/spectra.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using acoustics::OctaveBandFilter;
+using acoustics::OctaveBandFilterBank;
+
+TEST(OctaveBandFilterBank, ThirdOctavesOnTheDecimalRatioAreTheLibraryGrid) {
+    OctaveBandFilterBank const bank(3, 50.0, 10000.0, 3, false);
+    EXPECT_NEAR(bank.octave_ratio, std::pow(10.0, 0.3), 1e-15);
+    EXPECT_EQ(bank.reference_frequency, 1000.0);
+    // (pi/6)/sin(pi/6) / (10^0.05 - 10^-0.05)
+    EXPECT_NEAR(bank.q_design, 4.537889771423653, 1e-12);
+    ASSERT_EQ(bank.filters.size(), 24u);
+    for (std::size_t i = 0; i < 24; ++i) {
+        OctaveBandFilter const& filter = bank.filters[i];
+        EXPECT_EQ(filter.bank, &bank);
+        EXPECT_EQ(filter.band_index, static_cast<int>(17 + i));
+        EXPECT_EQ(filter.nominal_frequency, tob_fc_nominal[16 + i]);
+        EXPECT_NEAR(filter.lower_edge, tob_fl[16 + i], 1e-11 * tob_fl[16 + i]);
+        EXPECT_NEAR(filter.upper_edge, tob_fl[17 + i], 1e-11 * tob_fl[17 + i]);
+    }
+    EXPECT_NEAR(bank.filters[0].midband_frequency, std::pow(10.0, 1.7), 1e-12);
+    EXPECT_EQ(bank.filters[3].midband_frequency, 100.0) << "decade bands are exact";
+    EXPECT_EQ(bank.filters[23].midband_frequency, 10000.0);
+}
+
+TEST(OctaveBandFilterBank, DecadeCorrectionsAndNominalTables) {
+    // Base-two octaves from 1 Hz: band 20 is moved from 1000 * 2^-10 onto 1 Hz exactly, and
+    // its edges follow the corrected centre.
+    OctaveBandFilterBank const octaves(1, 1.0, 20000.0, 3, true);
+    ASSERT_EQ(octaves.filters.size(), 15u);
+    OctaveBandFilter const& lowest = octaves.filters.front();
+    EXPECT_EQ(lowest.band_index, 20);
+    EXPECT_EQ(lowest.midband_frequency, 1.0);
+    EXPECT_NEAR(lowest.upper_edge, std::sqrt(2.0), 1e-15);
+    double const nominal[] = {1,   2,   4,    8,    16,   31.5, 63,   125,
+                              250, 500, 1000, 2000, 4000, 8000, 16000};
+    for (std::size_t i = 0; i < 15; ++i) {
+        EXPECT_EQ(octaves.filters[i].nominal_frequency, nominal[i]) << i;
+    }
+    EXPECT_EQ(octaves.filters[11].midband_frequency, 2000.0);
+
+    // Base-two thirds: band 20 is moved from 99.2 Hz onto 100 Hz.
+    OctaveBandFilterBank const thirds(3, 90.0, 110.0, 3, true);
+    ASSERT_EQ(thirds.filters.size(), 1u);
+    EXPECT_EQ(thirds.filters[0].midband_frequency, 100.0);
+
+    // Below band 0 the decades continue downwards: 0.5, 0.63, 0.8 and then 1 Hz.
+    OctaveBandFilterBank const low(3, 0.5, 1.0, 3, false);
+    ASSERT_EQ(low.filters.size(), 4u);
+    EXPECT_EQ(low.filters[0].band_index, -3);
+    double const low_nominal[] = {0.5, 0.63, 0.8, 1.0};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(low.filters[i].nominal_frequency, low_nominal[i], 1e-15) << i;
+    }
+}
+
+TEST(OctaveBandFilterBank, EvenBandCountsSitHalfABandOffTheReference) {
+    // Twelfth octaves around 1 kHz: centres 1000 * G^((2x - 59)/24), rounded to three digits
+    // when they start with 1 to 4 and to two otherwise.
+    OctaveBandFilterBank const bank(12, 900.0, 1100.0, 3, false);
+    ASSERT_EQ(bank.filters.size(), 4u);
+    EXPECT_EQ(bank.filters[0].band_index, 28);
+    double const midband[] = {917.2759353897795, 971.6279515771062, 1029.2005271944283,
+                              1090.1844923851277};
+    double const nominal[] = {920.0, 970.0, 1030.0, 1090.0};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(bank.filters[i].midband_frequency, midband[i], 1e-9) << i;
+        EXPECT_NEAR(bank.filters[i].nominal_frequency, nominal[i], 1e-9) << i;
+    }
+    // The two middle bands meet exactly on the reference.
+    EXPECT_NEAR(bank.filters[1].upper_edge, 1000.0, 1e-9);
+    EXPECT_NEAR(bank.filters[2].lower_edge, 1000.0, 1e-9);
+}

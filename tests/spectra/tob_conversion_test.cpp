@@ -1,0 +1,232 @@
+#include <calc-common/spectra.hpp>
+
+#include "narrowband_fixtures.hpp"
+#include "spectra/tob_conversion.hpp"
+#include "support/allocation_counter.hpp"
+
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+// A level whose energy is negligible beside any other in these tests (the narrowband path has
+// no cut, so a silent 0.0 dB line would still add an energy of 1).
+constexpr double inaudible = -400.0;
+
+// Line k of a narrowband spectrum at `level`.
+void set_line(spectrum_t& spectrum, double frequency, double level) {
+    frequency_range_t const& range = *spectrum.frequency_range;
+    spectrum.at(static_cast<std::size_t>(std::lround((frequency - range.f_start) / range.df))) =
+        level;
+}
+
+} // namespace
+
+TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
+    boost::shared_ptr<spectrum_t> input = narrowband(0.0, 1000.0, 10.0, 40.0);
+    boost::shared_ptr<spectrum_t> on_copy =
+        boost::make_shared<spectrum_t>(tob_frequency_range_ptr->clone());
+    on_copy->fill_with(7.0);
+    EXPECT_EQ(convert_spectrum_to_tob(input, on_copy, nbtob_line_band, 0), 1);
+    EXPECT_EQ(on_copy->values, std::vector<double>(24, 7.0)) << "untouched";
+
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    EXPECT_EQ(convert_spectrum_to_tob(spectrum_t::create_tob(), output, nbtob_line_band, 0), 1);
+
+    output->fill_with(7.0);
+    EXPECT_EQ(convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(5), 0),
+              1);
+    EXPECT_EQ(output->values, std::vector<double>(24, 0.0)) << "zeroed";
+
+    // A list of lines ignores the method altogether.
+    boost::shared_ptr<spectrum_t> lines =
+        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(1));
+    lines->frequency_range->frequencies[0] = 1000.0;
+    lines->at(0) = 60.0;
+    EXPECT_EQ(convert_spectrum_to_tob(lines, output, static_cast<nbtob_conversion_method>(5), 9),
+              0);
+    EXPECT_NEAR(output->at(13), 60.0, 1e-12);
+
+    boost::shared_ptr<noise_field_column_range_t> columns =
+        boost::make_shared<noise_field_column_range_t>(2, nullptr, nullptr, nullptr);
+    boost::shared_ptr<noise_field_t> field = noise_field_t::create_tob(columns);
+    EXPECT_EQ(
+        convert_noise_field_to_tob(field, noise_field_t::create_tob(columns), nbtob_line_band, 0),
+        1);
+}
+
+TEST(TobConversion, WholeLinesGoToTheBandThatHoldsThem) {
+    // Lines 40, 50, ..., 120 Hz at 10 dB (an energy of 10 each). 40 Hz is below the first band
+    // and adds nothing; 60 and 70 share the 63 Hz band, 90 to 110 the 100 Hz band.
+    boost::shared_ptr<spectrum_t> input = narrowband(40.0, 120.0, 10.0, 10.0);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 0), 0);
+    double const expected[] = {10.0, 10.0 * std::log10(20.0), 10.0, 10.0 * std::log10(30.0), 10.0};
+    for (std::size_t band = 0; band < 5; ++band) {
+        EXPECT_NEAR(output->at(band), expected[band], 1e-12) << band;
+    }
+    for (std::size_t band = 5; band < 24; ++band) {
+        EXPECT_EQ(output->at(band), 0.0) << "no line reaches band " << band;
+    }
+
+    // A line exactly on the 63/80 Hz edge belongs to the band above it.
+    boost::shared_ptr<spectrum_t> on_edge = narrowband(tob_fl[18], tob_fl[18] + 20.0, 10.0, 20.0);
+    ASSERT_EQ(convert_spectrum_to_tob(on_edge, output, nbtob_line_band, 7), 0);
+    EXPECT_EQ(output->at(1), 0.0);
+    EXPECT_NEAR(output->at(2), 20.0 + 10.0 * std::log10(2.0), 1e-12);
+    EXPECT_NEAR(output->at(3), 20.0, 1e-12);
+
+    // No cut on this path: an energy of 0.5 (900 and 910 Hz; 890 Hz is below the first band
+    // the grid reaches) reads -3 dB.
+    boost::shared_ptr<spectrum_t> faint = narrowband(890.0, 910.0, 10.0, 10.0 * std::log10(0.25));
+    ASSERT_EQ(convert_spectrum_to_tob(faint, output, nbtob_line_band, 0), 0);
+    EXPECT_NEAR(output->at(13), 10.0 * std::log10(0.5), 1e-12);
+}
+
+TEST(TobConversion, LineWidthsAreSharedByTheirOverlapWithBands) {
+    // Lines 30 to 130 Hz, 10 Hz apart at 10 dB: each line covers 5 Hz either side, so bands
+    // take the exact width of white noise, 10*log10(width/df) + 10, until the grid ends.
+    boost::shared_ptr<spectrum_t> input = narrowband(30.0, 130.0, 10.0, 10.0);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_width_overlap, 0), 0);
+    // By hand for the 50 Hz band: 40 Hz gives (40 - 44.668 + 5)/10 = 0.0332, 50 Hz all of
+    // itself, 60 Hz (56.234 - 60 + 5)/10 = 0.1234.
+    EXPECT_NEAR(output->at(0), 10.631746756198845, 1e-12);
+    EXPECT_NEAR(output->at(1), 11.631746756198849, 1e-12);
+    EXPECT_NEAR(output->at(3), 13.63174675619877, 1e-12);
+    for (std::size_t band = 0; band < 4; ++band) {
+        EXPECT_NEAR(output->at(band), 10.0 + 10.0 * std::log10(band_width(band) / 10.0), 1e-12);
+    }
+    // The 125 Hz band ends past the grid: it holds 120 and 130 Hz whole and 0.28 of 110 Hz.
+    EXPECT_NEAR(output->at(4), 13.57899693816784, 1e-12);
+    EXPECT_EQ(output->at(5), 0.0);
+
+    // Bands must span more than line_count + 1 lines: at 10 Hz and a count of 1, the 50 to
+    // 80 Hz bands (11.6, 14.6 and 18.3 Hz wide) are too narrow and stay silent.
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_width_overlap, 1), 0);
+    EXPECT_EQ(output->at(0), 0.0);
+    EXPECT_EQ(output->at(2), 0.0);
+    EXPECT_NEAR(output->at(3), 13.63174675619877, 1e-12);
+}
+
+TEST(TobConversion, FilteredLinesReachEveryBandThroughTheCurve) {
+    double const q = VARNO::detail::tob_filter_q();
+    EXPECT_NEAR(q, 4.522294399688317, 1e-14);
+    EXPECT_EQ(VARNO::detail::tob_filter_q(), q);
+
+    // One 60 dB line at 1 kHz: its own band passes it whole, and the 800 Hz and 1.25 kHz bands
+    // take it 18.575 dB down, 10*log10(1 + (Q*(0.8 - 1.25))^6).
+    boost::shared_ptr<spectrum_t> input = narrowband(0.0, 2000.0, 10.0, inaudible);
+    set_line(*input, 1000.0, 60.0);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_butterworth, 0), 0);
+    EXPECT_NEAR(output->at(13), 60.0, 1e-9);
+    EXPECT_NEAR(output->at(12), 41.42500138395033, 1e-9);
+    EXPECT_NEAR(output->at(14), 41.42500138395033, 1e-9);
+    // The grid ends at 2 kHz: bands above the 2 kHz band are not filled.
+    EXPECT_NE(output->at(16), 0.0);
+    EXPECT_EQ(output->at(17), 0.0);
+
+    // Too narrow for the resolution at a line count of 1 (more than 20 Hz needed).
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_butterworth, 1), 0);
+    EXPECT_EQ(output->at(2), 0.0);
+    EXPECT_NE(output->at(3), 0.0);
+}
+
+TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
+    // Lines at 60 dB: 1 kHz lies inside its band; 900 Hz is in the overlap of the 1 kHz band's
+    // lower edge (891.25 Hz * 1.04) and 1100 Hz in that of its upper edge (1122 Hz / 1.04);
+    // 45 Hz shares 0.415 with a band below the grid, which is lost. Lines below 1 Hz and those
+    // of bands off the grid are dropped, and a silent line adds nothing.
+    double const frequencies[] = {1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0};
+    double const levels[] = {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0};
+    boost::shared_ptr<spectrum_t> input =
+        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(7));
+    input->frequency_range->frequencies.assign(frequencies, frequencies + 7);
+    input->values.assign(levels, levels + 7);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 3), 0);
+    EXPECT_NEAR(output->at(0), 57.67023862295765, 1e-12);
+    EXPECT_NEAR(output->at(12), 55.85111212059501, 1e-12);
+    EXPECT_NEAR(output->at(13), 63.757043971866736, 1e-12);
+    EXPECT_NEAR(output->at(14), 53.80368069120956, 1e-12);
+    for (std::size_t band : {1u, 11u, 15u, 16u, 23u}) {
+        EXPECT_EQ(output->at(band), 0.0) << band;
+    }
+
+    // An energy of 0.5 is cut to silence here.
+    input->values.assign(7, 10.0 * std::log10(0.5));
+    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 0), 0);
+    EXPECT_EQ(output->at(13), 0.0);
+}
+
+TEST(TobConversion, FieldColumnsConvertAsSeparateSpectra) {
+    std::size_t const columns = 3;
+    boost::shared_ptr<frequency_range_t> narrow = frequency_range_t::create_nb(20.0, 12000.0, 5.0);
+    boost::shared_ptr<frequency_range_t> listed = frequency_range_t::create_dt(40);
+    for (std::size_t k = 0; k < 40; ++k) {
+        listed->frequencies[k] = 40.0 * std::pow(1.15, static_cast<double>(k));
+    }
+    boost::shared_ptr<noise_field_column_range_t> column_range =
+        boost::make_shared<noise_field_column_range_t>(columns, nullptr, nullptr, nullptr);
+    for (boost::shared_ptr<frequency_range_t> range : {narrow, listed}) {
+        noise_field_t shape(range, column_range);
+        boost::shared_ptr<noise_field_t> field = boost::make_shared<noise_field_t>(shape);
+        for (std::size_t k = 0; k < range->count; ++k) {
+            for (std::size_t column = 0; column < columns; ++column) {
+                field->at(k, column) = 20.0 + 15.0 * std::sin(0.37 * k + 2.1 * column);
+            }
+        }
+        for (int method = 0; method < 3; ++method) {
+            for (int line_count : {0, 3}) {
+                auto const how = static_cast<nbtob_conversion_method>(method);
+                boost::shared_ptr<noise_field_t> bands = noise_field_t::create_tob(column_range);
+                ASSERT_EQ(convert_noise_field_to_tob(field, bands, how, line_count), 0);
+                for (std::size_t column = 0; column < columns; ++column) {
+                    boost::shared_ptr<spectrum_t> one = boost::make_shared<spectrum_t>(range);
+                    for (std::size_t k = 0; k < range->count; ++k) {
+                        one->at(k) = field->at(k, column);
+                    }
+                    boost::shared_ptr<spectrum_t> expected = spectrum_t::create_tob();
+                    ASSERT_EQ(convert_spectrum_to_tob(one, expected, how, line_count), 0);
+                    for (std::size_t band = 0; band < 24; ++band) {
+                        EXPECT_NEAR(bands->at(band, column), expected->at(band), 1e-9)
+                            << "method " << method << " count " << line_count << " column "
+                            << column << " band " << band;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(TobConversion, WhiteNoiseFillsEachBandByItsWidth) {
+    // 40 dB per 1 Hz line from 1 Hz to 20 kHz: every band reads 40 + 10*log10(width/df).
+    boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 1.0, 40.0);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    for (int method = 0; method < 3; ++method) {
+        ASSERT_EQ(
+            convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(method), 0),
+            0);
+        for (std::size_t band = 0; band < 24; ++band) {
+            EXPECT_NEAR(output->at(band), 40.0 + 10.0 * std::log10(band_width(band)), 0.5)
+                << "method " << method << " band " << band;
+        }
+    }
+}
+
+TEST(TobConversion, SummationAllocatesNothing) {
+    boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 5.0, 40.0);
+    boost::shared_ptr<spectrum_t> lines =
+        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(3));
+    lines->frequency_range->frequencies = {100.0, 1000.0, 5000.0};
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    test_support::AllocationCounter counter;
+    for (int method = 0; method < 3; ++method) {
+        convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(method), 0);
+    }
+    convert_spectrum_to_tob(lines, output, nbtob_line_band, 0);
+    EXPECT_EQ(counter.count(), 0u);
+}
