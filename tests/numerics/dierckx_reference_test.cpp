@@ -1,0 +1,119 @@
+// Agreement with the FITPACK routines that SciPy wraps, on the committed tables of
+// bspline_reference.inc (see generate_bspline_reference.py).
+#include "numerics/dierckx.hpp"
+
+#include <calc-common/numerics.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct ReferenceCase {
+    char const* name;
+    int m;
+    double const* x;
+    double const* y;
+    double s;
+    int ier;
+    int n;
+    double const* t;
+    double const* c;
+    double fp;
+    int points;
+    double const* at;
+    double const* derivatives[4];
+    int spalde_points;
+    double const* spalde_at;
+    double const* spalde;
+};
+
+#include "bspline_reference.inc"
+
+constexpr double relative_tolerance = 1e-10;
+
+// Relative agreement, measured against the larger of the entry and the array's typical size so
+// that entries that pass through zero are judged on the scale of their neighbours.
+void expect_agreement(double const* expected, double const* actual, int count,
+                      std::string const& what) {
+    double scale = 0.0;
+    for (int i = 0; i < count; ++i) {
+        scale = std::max(scale, std::fabs(expected[i]));
+    }
+    for (int i = 0; i < count; ++i) {
+        double const bound = relative_tolerance * std::max(std::fabs(expected[i]), 1e-3 * scale);
+        EXPECT_NEAR(actual[i], expected[i], bound) << what << " [" << i << "]";
+    }
+}
+
+struct Fit {
+    int ier = 0;
+    int n = 0;
+    double fp = 0.0;
+    std::vector<double> t;
+    std::vector<double> c;
+};
+
+Fit fit(ReferenceCase const& reference) {
+    int const m = reference.m;
+    int const nest = m + 4;
+    int const lwrk = m * 4 + nest * 16;
+    std::vector<double> const w(m, 1.0);
+    std::vector<double> wrk(lwrk);
+    std::vector<int> iwrk(nest);
+    Fit result;
+    result.t.assign(nest, 0.0);
+    result.c.assign(nest, 0.0);
+    VARNO::detail::curfit(0, m, reference.x, reference.y, w.data(), reference.x[0],
+                          reference.x[m - 1], 3, reference.s, nest, result.n, result.t.data(),
+                          result.c.data(), result.fp, wrk.data(), lwrk, iwrk.data(), result.ier);
+    return result;
+}
+
+TEST(DierckxReference, FitsMatchKnotsCoefficientsAndResidual) {
+    for (ReferenceCase const& reference : reference_cases) {
+        SCOPED_TRACE(reference.name);
+        Fit const result = fit(reference);
+        EXPECT_EQ(result.ier, reference.ier);
+        ASSERT_EQ(result.n, reference.n);
+        expect_agreement(reference.t, result.t.data(), reference.n, "knots");
+        expect_agreement(reference.c, result.c.data(), reference.n - 4, "coefficients");
+        double const residual_scale = std::max(reference.fp, 1e-20);
+        EXPECT_NEAR(result.fp, reference.fp, relative_tolerance * residual_scale);
+    }
+}
+
+TEST(DierckxReference, ValuesAndDerivativesMatch) {
+    for (ReferenceCase const& reference : reference_cases) {
+        SCOPED_TRACE(reference.name);
+        Fit const result = fit(reference);
+        ASSERT_EQ(result.n, reference.n);
+        std::vector<double> y(reference.points);
+        std::vector<double> wrk(result.n);
+        int ier = -1;
+        VARNO::detail::splev(result.t.data(), result.n, result.c.data(), 3, reference.at, y.data(),
+                             reference.points, ier);
+        EXPECT_EQ(ier, 0);
+        expect_agreement(reference.derivatives[0], y.data(), reference.points, "values");
+        for (int order = 1; order <= 3; ++order) {
+            VARNO::detail::splder(result.t.data(), result.n, result.c.data(), 3, order,
+                                  reference.at, y.data(), reference.points, wrk.data(), ier);
+            EXPECT_EQ(ier, 0);
+            expect_agreement(reference.derivatives[order], y.data(), reference.points,
+                             "derivative " + std::to_string(order));
+        }
+        for (int i = 0; i < reference.spalde_points; ++i) {
+            double d[4];
+            VARNO::detail::spalde(result.t.data(), result.n, result.c.data(), 4,
+                                  reference.spalde_at[i], d, ier);
+            EXPECT_EQ(ier, 0);
+            expect_agreement(reference.spalde + 4 * i, d, 4, "all derivatives");
+        }
+    }
+}
+
+} // namespace
