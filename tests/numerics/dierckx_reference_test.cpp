@@ -1,54 +1,20 @@
 // Agreement with the FITPACK routines that SciPy wraps, on the committed tables of
 // bspline_reference.inc (see generate_bspline_reference.py).
+#include "bspline_reference.hpp"
 #include "numerics/dierckx.hpp"
-
-#include <calc-common/numerics.hpp>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
 namespace {
 
-struct ReferenceCase {
-    char const* name;
-    int m;
-    double const* x;
-    double const* y;
-    double s;
-    int ier;
-    int n;
-    double const* t;
-    double const* c;
-    double fp;
-    int points;
-    double const* at;
-    double const* derivatives[4];
-    int spalde_points;
-    double const* spalde_at;
-    double const* spalde;
-};
-
-#include "bspline_reference.inc"
-
-constexpr double relative_tolerance = 1e-10;
-
-// Relative agreement, measured against the larger of the entry and the array's typical size so
-// that entries that pass through zero are judged on the scale of their neighbours.
-void expect_agreement(double const* expected, double const* actual, int count,
-                      std::string const& what) {
-    double scale = 0.0;
-    for (int i = 0; i < count; ++i) {
-        scale = std::max(scale, std::fabs(expected[i]));
-    }
-    for (int i = 0; i < count; ++i) {
-        double const bound = relative_tolerance * std::max(std::fabs(expected[i]), 1e-3 * scale);
-        EXPECT_NEAR(actual[i], expected[i], bound) << what << " [" << i << "]";
-    }
-}
+using bspline_reference::expect_agreement;
+using bspline_reference::reference_cases;
+using bspline_reference::ReferenceCase;
+constexpr double relative_tolerance = bspline_reference::relative_tolerance;
 
 struct Fit {
     int ier = 0;
