@@ -108,6 +108,18 @@ inline void advance_to_interval(double const* t, int nk1, double arg, int& l) {
     }
 }
 
+/// The argument at which splev and splder evaluate x: x itself inside the span [tb, te], the
+/// nearest end of the span outside it.
+inline double clamp_to_span(double x, double tb, double te) {
+    if (x < tb) {
+        return tb;
+    }
+    if (x > te) {
+        return te;
+    }
+    return x;
+}
+
 /// ier 0 when the knots t[0..n-1] suit a spline of degree k through the m abscissas x: ordered
 /// boundary knots, strictly increasing interior knots, data inside the span, and the
 /// Schoenberg-Whitney conditions. ier 10 otherwise.

@@ -184,7 +184,7 @@ void fpcurf(int iopt, double const* x, double const* y, double const* w, int m, 
     double fpms = 0.0;
     int nplus = 0;
 
-    // Part 1: the number of knots and their position. With s > 0 the search starts from the
+    // Stage 1: the number of knots and their position. With s > 0 the search starts from the
     // least-squares polynomial (no interior knot), or, on a continued call, from the knots of
     // the last call if they do not already satisfy s; with s = 0 the knots are those of the
     // interpolating spline.
@@ -280,7 +280,7 @@ void fpcurf(int iopt, double const* x, double const* y, double const* w, int m, 
         return;
     }
 
-    // Part 2: the smoothing spline on these knots, s(x) minimising
+    // Stage 2: the smoothing spline on these knots, s(x) minimising
     // p * sum((w*(y - s))^2) + sum of squared jumps of the k-th derivative, with p found as the
     // root of f(p) = fp(p) - s. f decreases and is convex in p; the root is bracketed by
     // (p1, f1 > 0) and (p3, f3 < 0), p3 < 0 standing for infinity, and approached by rational

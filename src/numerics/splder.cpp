@@ -54,13 +54,7 @@ void splder(double const* t, int n, double const* c, int k, int nu, double const
     }
     double h[6];
     for (int i = 0; i < m; ++i) {
-        double arg = x[i];
-        if (arg < tb) {
-            arg = tb;
-        }
-        if (arg > te) {
-            arg = te;
-        }
+        double const arg = clamp_to_span(x[i], tb, te);
         advance_to_interval(t, nk1, arg, l);
         fpbspl(t, n, kk, arg, l, h);
         double sp = 0.0;

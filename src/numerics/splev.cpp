@@ -18,13 +18,7 @@ void splev(double const* t, int n, double const* c, int k, double const* x, doub
     // The abscissas ascend, so the knot interval is only ever searched forward.
     int l = k;
     for (int i = 0; i < m; ++i) {
-        double arg = x[i];
-        if (arg < tb) {
-            arg = tb;
-        }
-        if (arg > te) {
-            arg = te;
-        }
+        double const arg = clamp_to_span(x[i], tb, te);
         advance_to_interval(t, nk1, arg, l);
         fpbspl(t, n, k, arg, l, h);
         double sp = 0.0;

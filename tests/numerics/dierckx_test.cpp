@@ -42,31 +42,6 @@ TEST(Givens, RotationAnnihilatesThePivotWithoutOverflow) {
     EXPECT_DOUBLE_EQ(sin, -cos);
 }
 
-TEST(Fpbspl, UniformCubicBSplinesAtAKnotAndBetween) {
-    double const t[] = {0, 1, 2, 3, 4, 5, 6, 7};
-    double h[4];
-    fpbspl(t, 8, 3, 3.0, 3, h);
-    EXPECT_DOUBLE_EQ(h[0], 1.0 / 6.0);
-    EXPECT_DOUBLE_EQ(h[1], 2.0 / 3.0);
-    EXPECT_DOUBLE_EQ(h[2], 1.0 / 6.0);
-    EXPECT_DOUBLE_EQ(h[3], 0.0);
-    fpbspl(t, 8, 3, 3.5, 3, h);
-    EXPECT_DOUBLE_EQ(h[0], 1.0 / 48.0); // (1 - u)^3/6 with u = 1/2
-    EXPECT_DOUBLE_EQ(h[3], 1.0 / 48.0);
-    EXPECT_DOUBLE_EQ(h[0] + h[1] + h[2] + h[3], 1.0);
-}
-
-TEST(Fpback, SolvesAnUpperBand) {
-    // Rows (2 1 0), (0 4 1), (0 0 5) stored by columns with leading dimension 4.
-    double const a[] = {2, 4, 5, 0, 1, 1, 0, 0};
-    double const z[] = {4, 14, 15};
-    double c[3];
-    fpback(a, z, 3, 2, c, 4);
-    EXPECT_DOUBLE_EQ(c[2], 3.0);
-    EXPECT_DOUBLE_EQ(c[1], 2.75);
-    EXPECT_DOUBLE_EQ(c[0], 0.625);
-}
-
 TEST(Fpchec, KnotsMustBeOrderedAndSupportedByData) {
     double const x[] = {0.0, 1.0, 2.0, 3.0, 4.0, 5.0};
     std::vector<double> t = {0, 0, 0, 0, 2.5, 5, 5, 5, 5};
