@@ -26,8 +26,9 @@ struct Fit {
 
 Fit fit(ReferenceCase const& reference) {
     int const m = reference.m;
-    int const nest = m + 4;
-    int const lwrk = m * 4 + nest * 16;
+    int const k = reference.k;
+    int const nest = m + k + 1;
+    int const lwrk = m * (k + 1) + nest * (7 + 3 * k);
     std::vector<double> const w(m, 1.0);
     std::vector<double> wrk(lwrk);
     std::vector<int> iwrk(nest);
@@ -35,7 +36,7 @@ Fit fit(ReferenceCase const& reference) {
     result.t.assign(nest, 0.0);
     result.c.assign(nest, 0.0);
     VARNO::detail::curfit(0, m, reference.x, reference.y, w.data(), reference.x[0],
-                          reference.x[m - 1], 3, reference.s, nest, result.n, result.t.data(),
+                          reference.x[m - 1], k, reference.s, nest, result.n, result.t.data(),
                           result.c.data(), result.fp, wrk.data(), lwrk, iwrk.data(), result.ier);
     return result;
 }
@@ -47,7 +48,8 @@ TEST(DierckxReference, FitsMatchKnotsCoefficientsAndResidual) {
         EXPECT_EQ(result.ier, reference.ier);
         ASSERT_EQ(result.n, reference.n);
         expect_agreement(reference.t, result.t.data(), reference.n, "knots");
-        expect_agreement(reference.c, result.c.data(), reference.n - 4, "coefficients");
+        expect_agreement(reference.c, result.c.data(), reference.n - reference.k - 1,
+                         "coefficients");
         double const residual_scale = std::max(reference.fp, 1e-20);
         EXPECT_NEAR(result.fp, reference.fp, relative_tolerance * residual_scale);
     }
@@ -61,23 +63,24 @@ TEST(DierckxReference, ValuesAndDerivativesMatch) {
         std::vector<double> y(reference.points);
         std::vector<double> wrk(result.n);
         int ier = -1;
-        VARNO::detail::splev(result.t.data(), result.n, result.c.data(), 3, reference.at, y.data(),
-                             reference.points, ier);
+        VARNO::detail::splev(result.t.data(), result.n, result.c.data(), reference.k, reference.at,
+                             y.data(), reference.points, ier);
         EXPECT_EQ(ier, 0);
         expect_agreement(reference.derivatives[0], y.data(), reference.points, "values");
-        for (int order = 1; order <= 3; ++order) {
-            VARNO::detail::splder(result.t.data(), result.n, result.c.data(), 3, order,
+        for (int order = 1; order <= std::min(3, reference.k); ++order) {
+            VARNO::detail::splder(result.t.data(), result.n, result.c.data(), reference.k, order,
                                   reference.at, y.data(), reference.points, wrk.data(), ier);
             EXPECT_EQ(ier, 0);
             expect_agreement(reference.derivatives[order], y.data(), reference.points,
                              "derivative " + std::to_string(order));
         }
         for (int i = 0; i < reference.spalde_points; ++i) {
-            double d[4];
-            VARNO::detail::spalde(result.t.data(), result.n, result.c.data(), 4,
+            int const orders = reference.k + 1;
+            double d[6];
+            VARNO::detail::spalde(result.t.data(), result.n, result.c.data(), orders,
                                   reference.spalde_at[i], d, ier);
             EXPECT_EQ(ier, 0);
-            expect_agreement(reference.spalde + 4 * i, d, 4, "all derivatives");
+            expect_agreement(reference.spalde + orders * i, d, orders, "all derivatives");
         }
     }
 }
