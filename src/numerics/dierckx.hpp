@@ -24,12 +24,13 @@ constexpr double curfit_tolerance = 0.001;
 /// Most iterations allowed in the search for the smoothing parameter.
 constexpr int curfit_max_iterations = 20;
 
-/// Weighted least-squares smoothing spline of degree k (1..5) on [xb, xe] through m points whose
-/// abscissas strictly increase, with the smallest number of knots for which
-/// sum((w*(y - s(x)))^2) <= s. iopt 0 starts afresh, 1 continues from the knots of the last call
-/// (wrk and iwrk kept), -1 fits the n knots given in t. nest bounds n (m+k+1 is always enough);
-/// wrk holds lwrk >= m*(k+1) + nest*(7+3k) doubles, iwrk nest ints. On return n, t, c and fp
-/// (the weighted sum of squared residuals) describe the spline, and ier the outcome.
+/// Weighted smoothing spline of degree k (1..5) on [xb, xe] for m points whose abscissas strictly
+/// increase: few knots, and fp = sum((w*(y - s(x)))^2) equal to s within tol*s (or below s for
+/// the least-squares polynomial, -2, and 0 for the interpolating spline, -1). iopt 0 starts afresh,
+/// 1 continues from the knots of the last call (wrk and iwrk kept), -1 fits the n knots given in t.
+/// nest bounds n (m+k+1 is always enough); wrk holds lwrk >= m*(k+1) + nest*(7+3k) doubles, iwrk
+/// nest ints. On return n, t, c and fp (the weighted sum of squared residuals) describe the spline,
+/// and ier the outcome.
 void curfit(int iopt, int m, double const* x, double const* y, double const* w, double xb,
             double xe, int k, double s, int nest, int& n, double* t, double* c, double& fp,
             double* wrk, int lwrk, int* iwrk, int& ier);
