@@ -1,0 +1,157 @@
+// The building blocks of the smoothing-spline fit, on hand-worked values.
+#include "numerics/dierckx.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+namespace {
+
+using namespace VARNO::detail;
+
+TEST(Fprati, FindsTheRootOfTheRationalThroughThreePoints) {
+    // r(p) = (3 - p)/(p + 1): r(0) = 3, r(1) = 1, r(5) = -1/3, r(inf) = -1, root 3.
+    double p1 = 0.0, f1 = 3.0, p3 = 5.0, f3 = -1.0 / 3.0;
+    EXPECT_NEAR(fprati(p1, f1, 1.0, 1.0, p3, f3), 3.0, 1e-15);
+    EXPECT_EQ(p1, 1.0); // f2 >= 0 replaces the left end of the bracket
+    EXPECT_EQ(f1, 1.0);
+    EXPECT_EQ(p3, 5.0);
+
+    p1 = 0.0, f1 = 3.0, p3 = -1.0, f3 = -1.0; // right end at infinity
+    EXPECT_NEAR(fprati(p1, f1, 5.0, -1.0 / 3.0, p3, f3), 3.0, 1e-15);
+    EXPECT_EQ(p1, 0.0); // f2 < 0 replaces the right end
+    EXPECT_EQ(p3, 5.0);
+    EXPECT_EQ(f3, -1.0 / 3.0);
+}
+
+TEST(Givens, RotationAnnihilatesThePivotWithoutOverflow) {
+    double ww = 4.0, cos = 0.0, sin = 0.0;
+    fpgivs(3.0, ww, cos, sin);
+    EXPECT_DOUBLE_EQ(ww, 5.0);
+    EXPECT_DOUBLE_EQ(cos, 0.8);
+    EXPECT_DOUBLE_EQ(sin, 0.6);
+    double a = 3.0, b = 4.0;
+    fprota(cos, sin, a, b);
+    EXPECT_NEAR(a, 0.0, 1e-15);
+    EXPECT_DOUBLE_EQ(b, 5.0);
+
+    ww = 1e300;
+    fpgivs(-1e300, ww, cos, sin);
+    EXPECT_DOUBLE_EQ(ww, std::sqrt(2.0) * 1e300);
+    EXPECT_DOUBLE_EQ(sin, -cos);
+}
+
+TEST(Fpchec, KnotsMustBeOrderedAndSupportedByData) {
+    double const x[] = {0.0, 1.0, 2.0, 3.0, 4.0, 5.0};
+    std::vector<double> t = {0, 0, 0, 0, 2.5, 5, 5, 5, 5};
+    int ier = -1;
+    fpchec(x, 6, t.data(), 9, 3, ier);
+    EXPECT_EQ(ier, 0);
+    t = {0, 0, 0, 0, 2.5, 2.5, 5, 5, 5, 5}; // repeated interior knot
+    fpchec(x, 6, t.data(), 10, 3, ier);
+    EXPECT_EQ(ier, 10);
+    t = {0, 0, 0, 0, 4.2, 4.4, 4.6, 5, 5, 5, 5}; // three B-splines share one data point
+    fpchec(x, 6, t.data(), 11, 3, ier);
+    EXPECT_EQ(ier, 10);
+    t = {0, 0, 0, 0, 2.5, 4.5, 5, 5, 5, 5}; // data still support every B-spline
+    fpchec(x, 6, t.data(), 10, 3, ier);
+    EXPECT_EQ(ier, 0);
+}
+
+// Noise-free samples of a cubic with a kink-free, uneven spacing.
+struct Table {
+    std::vector<double> x, y, w;
+    explicit Table(int m) {
+        for (int i = 0; i < m; ++i) {
+            double const xi = i + 0.3 * std::sin(1.7 * i);
+            x.push_back(xi);
+            y.push_back(std::sin(0.4 * xi) + 0.05 * std::cos(5.0 * xi));
+            w.push_back(1.0);
+        }
+    }
+    int m() const { return static_cast<int>(x.size()); }
+};
+
+struct Curfit {
+    int nest;
+    std::vector<double> t, c, wrk;
+    std::vector<int> iwrk;
+    int n = 0;
+    double fp = 0.0;
+    int ier = 0;
+    Curfit(int m, int nest_)
+        : nest(nest_)
+        , t(nest_)
+        , c(nest_)
+        , wrk(4 * m + 16 * nest_)
+        , iwrk(nest_) {}
+    void run(Table const& table, int iopt, double s) {
+        curfit(iopt, table.m(), table.x.data(), table.y.data(), table.w.data(), table.x.front(),
+               table.x.back(), 3, s, nest, n, t.data(), c.data(), fp, wrk.data(),
+               static_cast<int>(wrk.size()), iwrk.data(), ier);
+    }
+};
+
+TEST(Curfit, StorageAndInputChecks) {
+    Table const table(30);
+    Curfit small(table.m(), 12); // room for four interior knots only
+    small.run(table, 0, 1e-4);
+    EXPECT_EQ(small.ier, 1);
+    EXPECT_EQ(small.n, 12);
+    small.run(table, 0, 0.0); // interpolation needs m + 4 knots
+    EXPECT_EQ(small.ier, 10);
+    small.run(table, 2, 1.0);
+    EXPECT_EQ(small.ier, 10);
+    Curfit short_work(table.m(), 34);
+    short_work.wrk.pop_back();
+    short_work.run(table, 0, 1.0);
+    EXPECT_EQ(short_work.ier, 10);
+}
+
+TEST(Curfit, GivenKnotsGiveTheLeastSquaresSpline) {
+    Table const table(30);
+    Curfit polynomial(table.m(), 34);
+    polynomial.run(table, 0, 1e6);
+    ASSERT_EQ(polynomial.ier, -2);
+    ASSERT_EQ(polynomial.n, 8);
+
+    // The boundary knots alone, given: the same least-squares polynomial.
+    Curfit fixed(table.m(), 34);
+    fixed.n = 8;
+    fixed.run(table, -1, 0.0);
+    EXPECT_EQ(fixed.ier, -2);
+    EXPECT_EQ(fixed.c, polynomial.c);
+    EXPECT_EQ(fixed.fp, polynomial.fp);
+
+    // Interior knots can only lower the residual.
+    fixed.n = 11;
+    fixed.t[4] = 8.0, fixed.t[5] = 15.0, fixed.t[6] = 22.0;
+    fixed.run(table, -1, 0.0);
+    EXPECT_EQ(fixed.ier, 0);
+    EXPECT_EQ(fixed.t[0], table.x.front());
+    EXPECT_EQ(fixed.t[10], table.x.back());
+    EXPECT_LT(fixed.fp, 0.5 * polynomial.fp);
+
+    fixed.t[5] = 7.0; // knots out of order
+    fixed.run(table, -1, 0.0);
+    EXPECT_EQ(fixed.ier, 10);
+}
+
+TEST(Curfit, ContinuationReachesTheNewFactorFromTheOldKnots) {
+    Table const table(40);
+    Curfit fit(table.m(), 44);
+    fit.run(table, 0, 0.05);
+    ASSERT_EQ(fit.ier, 0);
+    std::vector<double> const first(fit.c.begin(), fit.c.begin() + fit.n - 4);
+    int const first_n = fit.n;
+    fit.run(table, 1, 0.05); // the same factor: the same spline
+    EXPECT_EQ(fit.n, first_n);
+    EXPECT_EQ(std::vector<double>(fit.c.begin(), fit.c.begin() + fit.n - 4), first);
+    fit.run(table, 1, 0.01);
+    ASSERT_EQ(fit.ier, 0);
+    EXPECT_GE(fit.n, first_n);
+    EXPECT_NEAR(fit.fp, 0.01, 0.001 * 0.01);
+}
+
+} // namespace
