@@ -4,10 +4,10 @@
 // Vocabulary: the enumerations with their numeric values and display texts, and the noise source
 // catalogue.
 
-/// How tones are told from broadband noise in a third-octave spectrum.
+/// Method separating tones from broadband noise.
 enum tone_sep_method_t : int {
-    slope_differences = 0,             ///< "Slope differences"
-    discrete_frequencies_detection = 1 ///< "Discrete frequencies detection"
+    tone_sep_slope_differences = 0,
+    tone_sep_discrete_frequencies_detection = 1,
 };
 
 #endif // CALC_COMMON_VOCABULARY_HPP

@@ -34,9 +34,9 @@ int Calc_SeparateTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
                        boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones) {
     int const k = cut_index(cut_frequency, spectrum->values.size());
-    if (method == slope_locator_method) {
+    if (method == tone_sep_slope_differences) {
         Calc_TonesLocSlope(spectrum, broadband, tones);
-    } else if (method == frequency_locator_method) {
+    } else if (method == tone_sep_discrete_frequencies_detection) {
         Calc_TonesLocFreq(spectrum, slope_step, tone_margin, broadband, tones);
     }
     Calc_InterpSpec(broadband, gap_value);
@@ -56,7 +56,7 @@ int Calc_SeparateTonesArray(double const* levels, std::size_t band_count, double
     std::copy(levels, levels + band_count, input.begin());
 
     int const k = cut_index(cut_frequency, band_count);
-    if (method == frequency_locator_method) {
+    if (method == tone_sep_discrete_frequencies_detection) {
         Calc_TonesLocFreqArray(input, floor.data(), tones, &slope_step, &tone_margin);
     } else {
         Calc_TonesLocSlopeArray(input, floor.data(), tones);

@@ -14,10 +14,6 @@
 namespace VARNO {
 namespace detail {
 
-/// Values of tone_sep_method_t that select a locator.
-constexpr int slope_locator_method = 0;
-constexpr int frequency_locator_method = 1;
-
 /// The cut index: the band number of `cut_frequency` (Hz) less 19, two bands below its grid
 /// index; 0 when that is not an index of a grid of `band_count` bands or the frequency has no band.
 int cut_index(double cut_frequency, std::size_t band_count);

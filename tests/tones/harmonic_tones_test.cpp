@@ -22,7 +22,7 @@ struct harmonic_split {
 void separate(std::vector<double> const& levels, double fundamental, harmonic_split& split) {
     boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
     spectrum->values = levels;
-    Calc_EnscaBBTones(spectrum, 1.0, 125.0, fundamental, 0.0, slope_differences, 2.0, 3.0,
+    Calc_EnscaBBTones(spectrum, 1.0, 125.0, fundamental, 0.0, tone_sep_slope_differences, 2.0, 3.0,
                       split.broadband, split.tones);
 }
 
