@@ -1,0 +1,95 @@
+#ifndef CALC_COMMON_SRC_TONES_TONE_LOCATION_HPP
+#define CALC_COMMON_SRC_TONES_TONE_LOCATION_HPP
+
+// Internal routines of tone location: the array twins of the locators and of the gap filler, the
+// bands a fundamental's harmonics touch, and the band-edge rules all tone routines share.
+
+#include "frame/numeric_helpers.hpp"
+
+#include <cmath>
+#include <vector>
+
+namespace VARNO {
+namespace detail {
+
+/// A band holding 0.001 dB or less counts as empty.
+constexpr double empty_band_level = 0.001;
+
+/// Index used for a frequency that has no band: it matches no band of the grid.
+constexpr int off_grid = -1;
+
+/// Only a positive finite frequency has a band number; anything else lies off every grid.
+inline bool on_frequency_axis(double frequency_hz) {
+    return frequency_hz > 0.0 && std::isfinite(frequency_hz);
+}
+
+/// Grid index of a frequency, or off_grid when it has no band at all.
+inline int grid_index_or_off(double frequency_hz) {
+    return on_frequency_axis(frequency_hz) ? tob_index(frequency_hz) : off_grid;
+}
+
+inline bool on_grid(int index, std::size_t band_count) {
+    return index >= 0 && index < static_cast<int>(band_count);
+}
+
+/// Where a frequency lies in its band `band`: clear of both edges, or within the factor 1.04 of
+/// the lower or the upper edge, where its energy is shared with the neighbouring band.
+enum class edge_zone { inside, lower_overlap, upper_overlap };
+
+inline edge_zone edge_zone_of(double frequency_hz, int band) {
+    if (tolerantly_above(band_lower_edge(band) * band_edge_overlap, frequency_hz)) {
+        return edge_zone::lower_overlap;
+    }
+    if (tolerantly_above(frequency_hz, band_upper_edge(band) / band_edge_overlap)) {
+        return edge_zone::upper_overlap;
+    }
+    return edge_zone::inside;
+}
+
+/// The overlap around a band edge, from edge/1.04 to edge*1.04 (Hz).
+struct edge_overlap {
+    double low;
+    double high;
+};
+
+inline edge_overlap overlap_around(double edge_hz) {
+    return {edge_hz / band_edge_overlap, edge_hz * band_edge_overlap};
+}
+
+/// Comparison policies: the spectrum forms of the tone routines compare tolerantly, their array
+/// twins with the plain operators.
+struct tolerant_comparison {
+    static bool above(double a, double b) { return tolerantly_above(a, b); }
+    static bool below(double a, double b) { return tolerantly_below(a, b); }
+    static bool at_most(double a, double b) { return tolerantly_at_most(a, b); }
+    static bool at_least(double a, double b) { return tolerantly_at_least(a, b); }
+};
+
+struct plain_comparison {
+    static bool above(double a, double b) { return a > b; }
+    static bool below(double a, double b) { return a < b; }
+    static bool at_most(double a, double b) { return a <= b; }
+    static bool at_least(double a, double b) { return a >= b; }
+};
+
+/// Slope-difference locator on bare arrays of levels.size() bands, plain comparisons.
+void Calc_TonesLocSlopeArray(std::vector<double> const& levels, double* broadband, double* tones);
+
+/// Discrete-frequency locator on bare arrays, plain comparisons; when no band holds more than
+/// 0.001 dB every level is broadband and it returns at once.
+void Calc_TonesLocFreqArray(std::vector<double> const& levels, double* broadband, double* tones,
+                            double const* slope_step, double const* tone_margin);
+
+/// Gap filler on a bare array: a gap is a level of magnitude below 0.1, a value one above 0.1.
+void Calc_InterpSpecArray(std::vector<double>& levels);
+
+/// Replaces `bands` by the ascending grid indices (0 to 23) that the first five harmonics of
+/// `fundamental` Hz can touch, two for a harmonic within the factor 1.04 of a band edge.
+/// Harmonics off the grid, above or below, add nothing, and so does a fundamental that is not a
+/// positive finite number.
+void Calc_HarmonicBands(double fundamental, std::vector<int>& bands);
+
+} // namespace detail
+} // namespace VARNO
+
+#endif // CALC_COMMON_SRC_TONES_TONE_LOCATION_HPP

@@ -1,0 +1,180 @@
+#include <calc-common/tones.hpp>
+
+#include "support/allocation_counter.hpp"
+#include "tone_test_support.hpp"
+#include "tones/tone_location.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+using namespace tone_test;
+
+namespace {
+
+#include "tone_reference.inc"
+
+double const not_a_number = std::numeric_limits<double>::quiet_NaN();
+
+struct checked {
+    std::vector<double> broadband;
+    std::vector<double> tones;
+};
+
+// Runs the tone check on a spectrum whose tones are the bands in `tone_bands`, with the floor
+// filled as the separation leaves it.
+checked check_tones(std::vector<double> const& levels, std::vector<std::size_t> tone_bands, int k,
+                    double margin) {
+    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
+    spectrum->values = levels;
+    boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
+    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
+    broadband->values = levels;
+    for (std::size_t band : tone_bands) {
+        tones->values[band] = levels[band];
+        broadband->values[band] = 0.0;
+    }
+    Calc_InterpSpec(broadband, 0.0);
+    Calc_CheckTones(spectrum, k, margin, 0.0, broadband, tones);
+    return {broadband->values, tones->values};
+}
+
+struct separated {
+    int k;
+    std::vector<double> broadband;
+    std::vector<double> tones;
+};
+
+separated bb_tones(std::vector<double> const& levels, double cut_frequency, int method) {
+    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
+    spectrum->values = levels;
+    boost::shared_ptr<spectrum_t> broadband = tob_filled_with(-3.0);
+    boost::shared_ptr<spectrum_t> tones = tob_filled_with(-3.0);
+    tones->tones.push_back(tone_id_t::create_eo(4, 2, 100.0, 60.0));
+    int const k = Calc_BBTones(spectrum, 1.5, cut_frequency, not_a_number,
+                               static_cast<tone_sep_method_t>(method), 2.0, 3.0, broadband, tones);
+    EXPECT_EQ(tones->tones.size(), 1u) << "the tone list is left alone";
+    EXPECT_TRUE(broadband->tones.empty());
+    return {k, broadband->values, tones->values};
+}
+
+// Above the cut index the broadband floor and the tones add up to the input by energy.
+void expect_energy_kept_above_cut(std::vector<double> const& levels, separated const& split) {
+    for (std::size_t i = static_cast<std::size_t>(split.k) + 1; i < 24; ++i) {
+        double const tone_energy = split.tones[i] > 0.0 ? energy(split.tones[i]) : 0.0;
+        EXPECT_NEAR((energy(split.broadband[i]) + tone_energy) / energy(levels[i]), 1.0, 1e-12)
+            << "band " << i;
+    }
+}
+
+} // namespace
+
+TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
+    std::vector<double> levels(24, 50.0);
+    levels[10] = 54.0;
+    levels[11] = 56.0;
+    // Pass 1 gives band 10 back (4 dB above the 50 dB floor); the floor under band 11 then
+    // rises to 52 dB and pass 2 gives band 11 back too (4 dB again).
+    checked const pair = check_tones(levels, {10, 11}, 0, 4.5);
+    EXPECT_EQ(pair.tones, std::vector<double>(24, 0.0));
+    EXPECT_EQ(pair.broadband, levels);
+
+    // Exactly check_margin above the floor is given back; above it the band stays a tone and the
+    // floor is interpolated beneath it.
+    std::vector<double> const peak = flat_with_peak(50.0, 10, 53.0);
+    EXPECT_EQ(check_tones(peak, {10}, 0, 3.0).tones[10], 0.0);
+    checked const kept = check_tones(peak, {10}, 0, 2.9);
+    EXPECT_EQ(kept.tones[10], 53.0);
+    EXPECT_EQ(kept.broadband[10], 50.0);
+
+    // Below the cut index the test is against the neighbours in the input.
+    EXPECT_EQ(check_tones(peak, {10}, 12, 3.0).tones[10], 0.0);
+    EXPECT_EQ(check_tones(peak, {10}, 12, 2.0).tones[10], 53.0);
+}
+
+TEST(CheckTones, FaintTonesAndTheEndBandsBelowTheCutAreLeftAlone) {
+    std::vector<double> levels(24, 50.0);
+    levels[0] = levels[23] = 60.0;
+    checked const ends = check_tones(levels, {0, 23}, 24, 30.0);
+    EXPECT_EQ(ends.tones[0], 60.0);
+    EXPECT_EQ(ends.tones[23], 60.0);
+
+    boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(50.0);
+    boost::shared_ptr<spectrum_t> broadband = tob_filled_with(50.0);
+    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
+    tones->values[5] = 1.0;
+    Calc_CheckTones(spectrum, 0, 3.0, 0.0, broadband, tones);
+    EXPECT_EQ(tones->values[5], 1.0);
+}
+
+TEST(BBTones, WorkedExamplesWithBothLocators) {
+    std::vector<double> const levels(shaped_levels, shaped_levels + 24);
+    for (bb_tones_reference const& expected : bb_tones_cases) {
+        separated const split = bb_tones(levels, 250.0, expected.method);
+        std::string const what = "method " + std::to_string(expected.method);
+        EXPECT_EQ(split.k, expected.k) << what;
+        expect_levels_near(split.broadband, expected.broadband, 1e-12, what + ", broadband");
+        expect_levels_near(split.tones, expected.tones, 1e-12, what + ", tones");
+        expect_energy_kept_above_cut(levels, split);
+    }
+    // Any value but 1 runs the slope locator.
+    EXPECT_EQ(bb_tones(levels, 250.0, 7).tones, bb_tones(levels, 250.0, 0).tones);
+}
+
+TEST(BBTones, NoToneAtOrBelowTheCutIndex) {
+    std::vector<double> const levels(shaped_levels, shaped_levels + 24);
+    // 2 kHz is grid band 16, so the cut index is 14: the tones at bands 8 and 12 stand in the
+    // broadband with their full level.
+    separated const high_cut = bb_tones(levels, 2000.0, 0);
+    EXPECT_EQ(high_cut.k, 14);
+    for (std::size_t i = 0; i <= 14; ++i) {
+        EXPECT_EQ(high_cut.broadband[i], levels[i]) << i;
+        EXPECT_EQ(high_cut.tones[i], 0.0) << i;
+    }
+    EXPECT_GT(high_cut.tones[16], 0.0);
+    expect_energy_kept_above_cut(levels, high_cut);
+
+    // A cut frequency whose index falls off the grid, or that has no band, gives 0.
+    for (double cut : {20.0, 1e6, 0.0, -100.0, not_a_number}) {
+        separated const split = bb_tones(flat_with_peak(50.0, 0, 70.0), cut, 0);
+        EXPECT_EQ(split.k, 0) << cut;
+        EXPECT_EQ(split.broadband[0], 70.0) << cut;
+        EXPECT_EQ(split.tones[0], 0.0) << cut;
+    }
+}
+
+TEST(ToneSeparation, AllocatesNothingAfterTheFirstCallOnAGrid) {
+    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
+    spectrum->values.assign(shaped_levels, shaped_levels + 24);
+    boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
+    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
+    boost::shared_ptr<spectrum_t> unshifted = spectrum_t::create_tob();
+    boost::shared_ptr<spectrum_t> shifted = spectrum_t::create_tob();
+    std::vector<double> array_broadband(24);
+    std::vector<double> array_tones(24);
+    double const step = 2.0;
+    double const margin = 3.0;
+    auto run_all = [&] {
+        Calc_TonesLocSlope(spectrum, broadband, tones);
+        Calc_TonesLocFreq(spectrum, step, margin, broadband, tones);
+        Calc_InterpSpec(broadband, 0.0);
+        VARNO::detail::Calc_TonesLocSlopeArray(spectrum->values, array_broadband.data(),
+                                               array_tones.data());
+        VARNO::detail::Calc_TonesLocFreqArray(spectrum->values, array_broadband.data(),
+                                              array_tones.data(), &step, &margin);
+        for (int method : {0, 1}) {
+            Calc_BBTones(spectrum, 1.5, 250.0, 0.0, static_cast<tone_sep_method_t>(method), step,
+                         margin, broadband, tones);
+        }
+        double shifted_frequency = 0.0;
+        double level = 0.0;
+        Calc_DopplerizeTone(tones, broadband, 1.1, 455.0, unshifted, shifted, &shifted_frequency,
+                            &level, nullptr, true, false);
+    };
+    run_all(); // sizes the static workspaces for the 24-band grid
+    test_support::AllocationCounter counter;
+    run_all();
+    EXPECT_EQ(counter.count(), 0u);
+}

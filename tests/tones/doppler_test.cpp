@@ -1,0 +1,170 @@
+#include <calc-common/tones.hpp>
+
+#include "tone_test_support.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+using namespace tone_test;
+
+namespace {
+
+#include "tone_reference.inc"
+
+struct doppler_outcome {
+    double level;
+    double level_copy;
+    double shifted_frequency;
+    std::vector<double> broadband;
+    std::vector<double> unshifted;
+    std::vector<double> shifted;
+};
+
+doppler_outcome dopplerize(std::vector<double> const& tone_levels, double floor, double ratio,
+                           double frequency, bool exact_energy, bool keep_broadband) {
+    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
+    tones->values = tone_levels;
+    boost::shared_ptr<spectrum_t> broadband = tob_filled_with(floor);
+    boost::shared_ptr<spectrum_t> unshifted = tob_filled_with(-7.0);
+    boost::shared_ptr<spectrum_t> shifted = tob_filled_with(-7.0);
+    doppler_outcome out{-1.0, -1.0, -1.0, {}, {}, {}};
+    Calc_DopplerizeTone(tones, broadband, ratio, frequency, unshifted, shifted,
+                        &out.shifted_frequency, &out.level, &out.level_copy, exact_energy,
+                        keep_broadband);
+    EXPECT_EQ(tones->values, tone_levels) << "the tone bands are only read";
+    out.broadband = broadband->values;
+    out.unshifted = unshifted->values;
+    out.shifted = shifted->values;
+    return out;
+}
+
+double const minus_infinity = -std::numeric_limits<double>::infinity();
+
+} // namespace
+
+TEST(SplitTone, SharesEnergyInProportionToTheDistanceFromTheLimits) {
+    double low = -1.0;
+    double high = -1.0;
+    Calc_SplitTone(60.0, 1000.0, 1000.0 / 1.04, 1000.0 * 1.04, &low, &high);
+    // 1000 Hz sits a little above the middle of [961.5, 1040]: shares 0.49 and 0.51 of 1e6.
+    EXPECT_NEAR(low, 57.07403171872882, 1e-12);
+    EXPECT_NEAR(high, 56.903698325741004, 1e-12);
+    EXPECT_NEAR(energy(low) + energy(high), energy(60.0), 1e-3);
+
+    Calc_SplitTone(60.0, 100.0, 100.0, 200.0, &low, &high);
+    EXPECT_NEAR(low, 60.0, 1e-12);
+    EXPECT_EQ(high, minus_infinity);
+
+    struct bad_split {
+        double low_limit;
+        double high_limit;
+        double frequency;
+    };
+    // Outside the overlap, and an overlap of no width.
+    for (bad_split const limits : {bad_split{100.0, 200.0, 99.0}, bad_split{150.0, 150.0, 150.0}}) {
+        low = high = -1.0;
+        try {
+            Calc_SplitTone(60.0, limits.frequency, limits.low_limit, limits.high_limit, &low,
+                           &high);
+            ADD_FAILURE() << "no error";
+        } catch (varno_calc_error const& error) {
+            EXPECT_STREQ(error.what(), "An error occurred in function Calc_SplitTone");
+        }
+        EXPECT_EQ(low, 0.0);
+        EXPECT_EQ(high, 0.0);
+    }
+}
+
+TEST(ToneSpectrum, WritesOneToneSplitNearABandEdge) {
+    boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(33.0);
+    Calc_ToneSpectrum(1000.0, 13, 60.0, spectrum);
+    EXPECT_EQ(spectrum->values, flat_with_peak(0.0, 13, 60.0));
+
+    // 45 Hz is in the lower overlap of band 0 (44.67 Hz): the share below the grid is lost.
+    Calc_ToneSpectrum(45.0, 0, 60.0, spectrum);
+    EXPECT_NEAR(spectrum->values[0], 57.67023862295765, 1e-12);
+    EXPECT_EQ(spectrum->values[1], 0.0);
+
+    // A band off the grid clears the spectrum, tone list included.
+    spectrum->tones.push_back(tone_id_t::create_bpf(3, 1.0, 80.0, 60.0));
+    Calc_ToneSpectrum(1000.0, 24, 60.0, spectrum);
+    EXPECT_EQ(spectrum->values, std::vector<double>(24, 0.0));
+    EXPECT_TRUE(spectrum->tones.empty());
+
+    // A frequency outside its band fails the split and leaves the spectrum as it was.
+    spectrum->fill_with(12.0);
+    EXPECT_THROW(Calc_ToneSpectrum(1000.0, 5, 60.0, spectrum), varno_calc_error);
+    EXPECT_EQ(spectrum->values, std::vector<double>(24, 12.0));
+}
+
+TEST(DopplerizeTone, CorrectsAToneNearEachEdgeInThreeForms) {
+    std::vector<double> const tone_levels = flat_with_peak(0.0, 10, 70.0);
+    for (doppler_reference const& expected : doppler_cases) {
+        doppler_outcome const out =
+            dopplerize(tone_levels, expected.floor, expected.ratio, expected.frequency,
+                       expected.exact_energy, expected.keep_broadband);
+        std::string const what = std::to_string(expected.frequency) + " Hz over " +
+                                 std::to_string(expected.floor) + " dB, exact " +
+                                 std::to_string(expected.exact_energy) + ", keep " +
+                                 std::to_string(expected.keep_broadband);
+        EXPECT_NEAR(out.level, expected.level, 1e-12) << what;
+        EXPECT_EQ(out.level_copy, out.level) << what;
+        EXPECT_DOUBLE_EQ(out.shifted_frequency, expected.ratio * expected.frequency) << what;
+        expect_levels_near(out.broadband, expected.broadband, 1e-9, what + ", broadband");
+        expect_levels_near(out.unshifted, expected.unshifted, 1e-9, what + ", unshifted");
+        expect_levels_near(out.shifted, expected.shifted, 1e-9, what + ", shifted");
+    }
+}
+
+TEST(DopplerizeTone, NeighbouringTonesAndTheEdgesOfTheGrid) {
+    // Between the overlaps the level is the band's, in one band both before and after.
+    doppler_outcome const centred =
+        dopplerize(flat_with_peak(0.0, 13, 65.0), 40.0, 1.0, 1000.0, true, false);
+    EXPECT_EQ(centred.level, 65.0);
+    EXPECT_EQ(centred.unshifted, flat_with_peak(0.0, 13, 65.0));
+    EXPECT_EQ(centred.shifted, flat_with_peak(0.0, 13, 65.0));
+
+    // Near the lower edge with a tone below: the two bands are summed, and the unshifted
+    // spectrum shows both as measured while the shifted one holds the split tone.
+    std::vector<double> pair = flat_with_peak(0.0, 10, 70.0);
+    pair[9] = 64.0;
+    doppler_outcome const summed = dopplerize(pair, 40.0, 1.0, 455.0, true, false);
+    EXPECT_NEAR(summed.level, 10.0 * std::log10(energy(64.0) + energy(70.0)), 1e-12);
+    EXPECT_EQ(summed.unshifted[9], 64.0);
+    EXPECT_EQ(summed.unshifted[10], 70.0);
+    EXPECT_NE(summed.shifted[9], 64.0);
+
+    // The upper neighbour counts from above 0 dB, the lower from above 0.001 dB.
+    std::vector<double> faint = flat_with_peak(0.0, 10, 70.0);
+    faint[11] = 0.0005;
+    EXPECT_NEAR(dopplerize(faint, 40.0, 1.0, 550.0, true, false).level,
+                10.0 * std::log10(energy(70.0) + energy(0.0005)), 1e-12);
+    faint[11] = 0.0;
+    faint[9] = 0.0005;
+    EXPECT_EQ(dopplerize(faint, 40.0, 1.0, 455.0, true, false).level, 70.0);
+
+    // First and last bands, and the top of the last band but one, have no level.
+    EXPECT_EQ(dopplerize(flat_with_peak(0.0, 0, 70.0), 40.0, 1.0, 50.0, true, false).level, 0.0);
+    doppler_outcome const last =
+        dopplerize(flat_with_peak(0.0, 23, 70.0), 40.0, 1.0, 10000.0, true, false);
+    EXPECT_EQ(last.level, 0.0);
+    EXPECT_EQ(last.unshifted, std::vector<double>(24, 0.0));
+    EXPECT_EQ(last.shifted, std::vector<double>(24, 0.0));
+    // 8.8 kHz lies in the upper overlap of band 22 (8570 to 9269 Hz).
+    EXPECT_EQ(dopplerize(flat_with_peak(0.0, 22, 70.0), 40.0, 1.0, 8800.0, false, true).level, 0.0);
+
+    // A shift off the grid leaves `shifted` silent but still reports frequency and level.
+    doppler_outcome const off =
+        dopplerize(flat_with_peak(0.0, 13, 65.0), 40.0, 20.0, 1000.0, true, false);
+    EXPECT_EQ(off.shifted, std::vector<double>(24, 0.0));
+    EXPECT_EQ(off.shifted_frequency, 20000.0);
+    EXPECT_EQ(off.level, 65.0);
+    // A frequency with no band is off the grid too.
+    doppler_outcome const nowhere =
+        dopplerize(flat_with_peak(0.0, 13, 65.0), 40.0, 1.0, -5.0, true, false);
+    EXPECT_EQ(nowhere.level, 0.0);
+    EXPECT_EQ(nowhere.unshifted, std::vector<double>(24, 0.0));
+}
