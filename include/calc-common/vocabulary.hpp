@@ -553,10 +553,4 @@ VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, trajectory_t
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, turbine_method_t const& value);
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, wecpn_method_t const& value);
 
-/// Method separating tones from broadband noise.
-enum tone_sep_method_t : int {
-    tone_sep_slope_differences = 0,
-    tone_sep_discrete_frequencies_detection = 1,
-};
-
 #endif // CALC_COMMON_VOCABULARY_HPP
