@@ -4,7 +4,6 @@
 
 #include <memory>
 
-using VARNO::detail::penta;
 using VARNO::detail::spline_cubic_set;
 using VARNO::detail::spline_cubic_val;
 
@@ -49,20 +48,6 @@ TEST(SplineCubic, ValueAndDerivativesOnEveryPiece) {
     // -0.5.
     EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.5, &yp, &ypp_value),
                 1.0 + 5.0 / 6.0 - 1.0 / 12.0, 1e-13);
-}
-
-TEST(SplineCubic, PentaSolvesABandedSystem) {
-    // Solution 1, 2, 3, 4, 5 of a diagonally dominant pentadiagonal system.
-    double a1[] = {0, 0, 1, 1, 1};
-    double a2[] = {0, 1, 1, 2, 1};
-    double a3[] = {6, 7, 8, 9, 10};
-    double a4[] = {1, 2, 1, 1, 0};
-    double a5[] = {1, 1, 1, 0, 0};
-    double b[] = {6 + 2 + 3, 1 + 14 + 6 + 4, 1 + 2 + 24 + 4 + 5, 2 + 6 + 36 + 5, 3 + 4 + 50};
-    std::unique_ptr<double[]> const s(penta(5, a1, a2, a3, a4, a5, b));
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_NEAR(s[i], i + 1.0, 1e-13) << i;
-    }
 }
 
 TEST(SplineCubicDeathTest, FatalFaultsEndTheProcessWithCodeOne) {
