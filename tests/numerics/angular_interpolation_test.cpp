@@ -1,0 +1,103 @@
+#include <calc-common/numerics.hpp>
+
+#include "support/allocation_counter.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+double const angles[] = {10.0, 40.0, 90.0, 150.0};
+double const levels[] = {80.0, 86.0, 90.0, 84.0};
+std::size_t const count = 4;
+
+std::string message_of(double (*interpolate)(double const*, double const*, std::size_t const&,
+                                             double const&, bool)) {
+    std::size_t const none = 0;
+    try {
+        interpolate(angles, levels, none, 20.0, true);
+    } catch (varno_calc_error const& error) {
+        return error.what();
+    }
+    return "";
+}
+
+} // namespace
+
+TEST(AngularInterpLinear, InterpolatesInsideAndClampsOutside) {
+    for (bool extrapolate : {false, true}) {
+        EXPECT_DOUBLE_EQ(Calc_AngularInterp_Linear(angles, levels, count, 25.0, extrapolate), 83.0);
+        EXPECT_DOUBLE_EQ(Calc_AngularInterp_Linear(angles, levels, count, 120.0, extrapolate),
+                         87.0);
+        EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, count, 0.0, extrapolate), 80.0);
+        EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, count, 10.0, extrapolate), 80.0);
+        EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, count, 200.0, extrapolate), 84.0);
+        // No wrap-around: 370 degrees is beyond the table, not 10 degrees.
+        EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, count, 370.0, extrapolate), 84.0);
+    }
+    EXPECT_DOUBLE_EQ(Calc_AngularInterp_Linear(angles, levels, count, 40.0, false), 86.0);
+    std::size_t const one = 1;
+    EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, one, 70.0, true), 80.0);
+    EXPECT_EQ(message_of(Calc_AngularInterp_Linear),
+              "An error occurred in function Calc_AngularInterp_Linear");
+}
+
+TEST(AngularInterpParabolic, IsTheAkimaCurveAtOneAngle) {
+    std::vector<double> const queries = {0.0, 25.0, 90.0, 120.0, 200.0};
+    for (bool extrapolate : {false, true}) {
+        std::vector<double> yi(queries.size()), dyi(queries.size()), slopes(count);
+        std::size_t const ni = queries.size();
+        Calc_ParabolicInterp(angles, levels, count, extrapolate, queries.data(), ni, yi.data(),
+                             dyi.data(), slopes.data());
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            EXPECT_EQ(Calc_AngularInterp_Parabolic(angles, levels, count, queries[i], extrapolate),
+                      yi[i]);
+        }
+    }
+    // Two points: the straight line even without extrapolation, unlike the linear lookup.
+    std::size_t const two = 2;
+    EXPECT_DOUBLE_EQ(Calc_AngularInterp_Parabolic(angles, levels, two, 70.0, false), 92.0);
+    EXPECT_EQ(message_of(Calc_AngularInterp_Parabolic),
+              "An error occurred in function Calc_ParabolicInterp");
+}
+
+TEST(AngularInterpParabolic, GrowsItsWorkspaceOnceAndThenAllocatesNothing) {
+    std::vector<double> x(100), y(100);
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        x[i] = static_cast<double>(i);
+        y[i] = 3.0 * static_cast<double>(i);
+    }
+    std::size_t const n = x.size();
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(x.data(), y.data(), n, 50.5, false), 151.5, 1e-9);
+    test_support::AllocationCounter counter;
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(x.data(), y.data(), n, 20.25, false), 60.75, 1e-9);
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(angles, levels, count, 40.0, false), 86.0, 1e-12);
+    EXPECT_EQ(counter.count(), 0u);
+}
+
+TEST(AngularInterpolationRecord, CarriesItsInterpolatorAndType) {
+    angular_interpolation_t const standard;
+    EXPECT_EQ(standard.type, ANGULAR_INTERPOLATION_PARABOLIC);
+    EXPECT_EQ(standard.interpolator(angles, levels, count, 25.0, true),
+              Calc_AngularInterp_Parabolic(angles, levels, count, 25.0, true));
+
+    ASSERT_TRUE(angular_interpolation_t::linear);
+    ASSERT_TRUE(angular_interpolation_t::parabolic);
+    EXPECT_EQ(angular_interpolation_t::linear->type, 0);
+    EXPECT_EQ(angular_interpolation_t::parabolic->type, 1);
+    EXPECT_DOUBLE_EQ(
+        angular_interpolation_t::linear->interpolator(angles, levels, count, 25.0, true), 83.0);
+    EXPECT_EQ(angular_interpolation_t::parabolic->interpolator(angles, levels, count, 120.0, true),
+              Calc_AngularInterp_Parabolic(angles, levels, count, 120.0, true));
+
+    // Nothing checks that the function and the type agree.
+    angular_interpolation_t const custom([](double const*, double const*, std::size_t n,
+                                            double const& angle,
+                                            bool) { return angle + static_cast<double>(n); },
+                                         ANGULAR_INTERPOLATION_LINEAR);
+    angular_interpolation_t const copy(custom);
+    EXPECT_EQ(copy.type, ANGULAR_INTERPOLATION_LINEAR);
+    EXPECT_EQ(copy.interpolator(angles, levels, count, 1.5, false), 5.5);
+}

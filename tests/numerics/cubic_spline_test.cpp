@@ -1,0 +1,84 @@
+#include "numerics/cubic_spline.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using VARNO::detail::spline_cubic_set;
+using VARNO::detail::spline_cubic_val;
+
+namespace {
+
+double t_even[] = {0.0, 1.0, 2.0, 3.0};
+double y_even[] = {0.0, 1.0, 0.0, 1.0};
+
+} // namespace
+
+TEST(SplineCubic, ClampedSecondDerivativesSolveTheHandSystem) {
+    // Zero end curvature on unit knots: 4/6*m1 + 1/6*m2 = -2 and 1/6*m1 + 4/6*m2 = 2.
+    std::unique_ptr<double[]> const ypp(spline_cubic_set(4, t_even, y_even, 2, 0.0, 2, 0.0));
+    EXPECT_NEAR(ypp[0], 0.0, 1e-14);
+    EXPECT_NEAR(ypp[1], -4.0, 1e-13);
+    EXPECT_NEAR(ypp[2], 4.0, 1e-13);
+    EXPECT_NEAR(ypp[3], 0.0, 1e-14);
+
+    // A prescribed end curvature is honoured.
+    std::unique_ptr<double[]> const bent(spline_cubic_set(4, t_even, y_even, 2, 1.5, 2, -0.5));
+    EXPECT_NEAR(bent[0], 1.5, 1e-14);
+    EXPECT_NEAR(bent[3], -0.5, 1e-14);
+
+    // Two knots with equal end curvatures: no system is solved.
+    std::unique_ptr<double[]> const pair(spline_cubic_set(2, t_even, y_even, 0, 0.0, 0, 0.0));
+    EXPECT_EQ(pair[0], 0.0);
+    EXPECT_EQ(pair[1], 0.0);
+}
+
+TEST(SplineCubic, ValueAndDerivativesOnEveryPiece) {
+    std::unique_ptr<double[]> const ypp(spline_cubic_set(4, t_even, y_even, 2, 0.0, 2, 0.0));
+    double yp = 0.0, ypp_value = 0.0;
+    // First piece: y = 5/3 t - 2/3 t^3.
+    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 0.5, &yp, &ypp_value),
+                5.0 / 6.0 - 1.0 / 12.0, 1e-14);
+    EXPECT_NEAR(yp, 5.0 / 3.0 - 0.5, 1e-14);
+    EXPECT_NEAR(ypp_value, -2.0, 1e-14);
+    // The last knot takes the last interval and returns its value; beyond it the piece goes on.
+    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.0, &yp, &ypp_value), 1.0, 1e-14);
+    EXPECT_NEAR(ypp_value, 0.0, 1e-13);
+    // The data satisfy y(3 - t) = 1 - y(t), so at 3.5 the spline is 1 minus the first piece at
+    // -0.5.
+    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.5, &yp, &ypp_value),
+                1.0 + 5.0 / 6.0 - 1.0 / 12.0, 1e-13);
+}
+
+TEST(SplineCubicDeathTest, FatalFaultsEndTheProcessWithCodeOne) {
+    double t[] = {0.0, 2.0, 2.0, 3.0};
+    double y[] = {0.0, 1.0, 2.0, 3.0};
+    EXPECT_EXIT(spline_cubic_set(1, t, y, 2, 0.0, 2, 0.0), testing::ExitedWithCode(1),
+                "\nSPLINE_CUBIC_SET - Fatal error!\n"
+                "  The number of data points N must be at least 2.\n"
+                "  The input value is 1\n");
+    EXPECT_EXIT(spline_cubic_set(4, t, y, 2, 0.0, 2, 0.0), testing::ExitedWithCode(1),
+                "SPLINE_CUBIC_SET - Fatal error!\n"
+                "  The knots must be strictly increasing, but\n"
+                "  T\\(1\\) = 2\n  T\\(2\\) = 2\n");
+    EXPECT_EXIT(spline_cubic_set(4, t_even, y_even, 4, 0.0, 2, 0.0), testing::ExitedWithCode(1),
+                "SPLINE_CUBIC_SET - Fatal error!\n"
+                "  IBCBEG must be 0, 1 or 2.\n  The input value is 4\n");
+    EXPECT_EXIT(spline_cubic_set(4, t_even, y_even, 2, 0.0, 3, 0.0), testing::ExitedWithCode(1),
+                "SPLINE_CUBIC_SET - Fatal error!\n"
+                "  IBCEND must be 0, 1 or 2.\n  The input value is 3\n");
+}
+
+TEST(SplineCubic, NotAKnotEndIsReachedThroughTheBeginningCondition) {
+    // Not-a-knot at both ends reproduces a cubic exactly (on even knots, where the inner rows are
+    // the textbook ones).
+    double t[] = {0.0, 0.5, 1.0, 1.5, 2.0};
+    double y[5];
+    for (int i = 0; i < 5; ++i) {
+        y[i] = t[i] * t[i] * t[i] - t[i];
+    }
+    std::unique_ptr<double[]> const ypp(spline_cubic_set(5, t, y, 3, 0.0, 3, 0.0));
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_NEAR(ypp[i], 6.0 * t[i], 1e-12) << i;
+    }
+}

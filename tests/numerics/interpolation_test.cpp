@@ -1,0 +1,164 @@
+#include <calc-common/numerics.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace {
+
+// y = x^2 on uneven knots. The parabolas through the end points are the data's own, so the ghost
+// chords are sums of abscissas and every Akima slope can be worked by hand: the extended
+// abscissas are -3, -2 | 0, 1, 3, 7 | 9, 13 and the chords -5, -2 | 1, 4, 10 | 16, 22, giving
+// t = -0.5, 2, 6, 13 (weights 3,3; 3,6; 3,6; 6,6).
+double const square_x[] = {0.0, 1.0, 3.0, 7.0};
+double const square_y[] = {0.0, 1.0, 9.0, 49.0};
+std::size_t const square_n = 4;
+
+struct akima_run {
+    std::vector<double> yi, dyi, slopes;
+};
+
+akima_run run(double const* x, double const* y, std::size_t n, bool extrapolate,
+              std::vector<double> const& xi) {
+    akima_run out{std::vector<double>(xi.size(), 77.0), std::vector<double>(xi.size(), 77.0),
+                  std::vector<double>(std::max(n, xi.size()), 77.0)};
+    std::size_t const ni = xi.size();
+    Calc_ParabolicInterp(x, y, n, extrapolate, xi.data(), ni, out.yi.data(), out.dyi.data(),
+                         out.slopes.data());
+    return out;
+}
+
+} // namespace
+
+TEST(LinearInterp, ExtendsTheLineOnBothSides) {
+    EXPECT_DOUBLE_EQ(Calc_LinearInterp(1.0, 2.0, 3.0, 6.0, 2.0), 4.0);
+    EXPECT_DOUBLE_EQ(Calc_LinearInterp(1.0, 2.0, 3.0, 6.0, -1.0), -2.0);
+    EXPECT_DOUBLE_EQ(Calc_LinearInterp(1.0, 2.0, 3.0, 6.0, 10.0), 20.0);
+    EXPECT_FALSE(std::isfinite(Calc_LinearInterp(1.0, 2.0, 1.0, 6.0, 2.0)));
+}
+
+TEST(ParabolicInterp, AkimaSlopesAndEndRulesMatchTheHandWorkedTable) {
+    akima_run const r = run(square_x, square_y, square_n, true, {2.0, 5.0});
+    double const t[] = {-0.5, 2.0, 6.0, 13.0};
+    for (std::size_t i = 0; i < square_n; ++i) {
+        EXPECT_NEAR(r.slopes[i], t[i], 1e-13) << i;
+    }
+    // Inner slopes are exact for a parabola, so the first inner interval reproduces it.
+    EXPECT_NEAR(r.yi[0], 4.0, 1e-13);
+    EXPECT_NEAR(r.dyi[0], 4.0, 1e-13);
+    // On [3, 7]: p2 = 5/4, p3 = -1/16, so at 5: 9 + 6*2 + 5 - 0.5.
+    EXPECT_NEAR(r.yi[1], 25.5, 1e-13);
+    EXPECT_NEAR(r.dyi[1], 10.25, 1e-13);
+}
+
+TEST(ParabolicInterp, ExtrapolationIsAsymmetricAtTheTwoEnds) {
+    akima_run const r = run(square_x, square_y, square_n, true, {-2.0, 7.0, 9.0});
+    // Below: the first point's Akima slope.
+    EXPECT_NEAR(r.yi[0], 1.0, 1e-13);
+    EXPECT_NEAR(r.dyi[0], -0.5, 1e-13);
+    // On the last point the cubic's slope is t(3) = 13; beyond it the last chord, 10.
+    EXPECT_NEAR(r.yi[1], 49.0, 1e-12);
+    EXPECT_NEAR(r.dyi[1], 13.0, 1e-12);
+    EXPECT_NEAR(r.yi[2], 69.0, 1e-12);
+    EXPECT_NEAR(r.dyi[2], 10.0, 1e-13);
+
+    // One ulp beyond the end is still on the table.
+    double const just_beyond = std::nextafter(7.0, 8.0);
+    akima_run const edge = run(square_x, square_y, square_n, true, {just_beyond});
+    EXPECT_NEAR(edge.dyi[0], 13.0, 1e-12);
+}
+
+TEST(ParabolicInterp, WithoutExtrapolationClampsAndLeavesDerivativesAlone) {
+    akima_run const r = run(square_x, square_y, square_n, false, {-1.0, 0.0, 8.0});
+    EXPECT_EQ(r.yi[0], 0.0);
+    EXPECT_EQ(r.yi[1], 0.0);
+    EXPECT_EQ(r.yi[2], 49.0);
+    EXPECT_EQ(r.dyi[0], 77.0);
+    EXPECT_EQ(r.dyi[1], 77.0);
+    EXPECT_EQ(r.dyi[2], 77.0);
+}
+
+TEST(ParabolicInterp, QueriesAreSweptForwardOnly) {
+    // Ascending queries across several intervals agree with one call per query.
+    std::vector<double> const ascending = {0.5, 0.9, 2.0, 2.9, 3.0, 3.5, 6.9};
+    akima_run const swept = run(square_x, square_y, square_n, true, ascending);
+    for (std::size_t i = 0; i < ascending.size(); ++i) {
+        akima_run const alone = run(square_x, square_y, square_n, true, {ascending[i]});
+        EXPECT_DOUBLE_EQ(swept.yi[i], alone.yi[0]) << ascending[i];
+        EXPECT_DOUBLE_EQ(swept.dyi[i], alone.dyi[0]) << ascending[i];
+    }
+    // A query that steps back is evaluated on the current interval's cubic, continued: 2 on the
+    // cubic of [3, 7] is 9 - 6 + 5/4 + 1/16, not the 4 of its own interval.
+    akima_run const back = run(square_x, square_y, square_n, true, {5.0, 2.0});
+    EXPECT_NEAR(back.yi[1], 4.3125, 1e-13);
+}
+
+TEST(ParabolicInterp, CollinearDataGiveTheStraightLine) {
+    double const x[] = {-1.0, 0.5, 0.75, 4.0, 10.0};
+    double const y[] = {-1.0, 2.0, 2.5, 9.0, 21.0};
+    akima_run const r = run(x, y, 5, true, {-3.0, 0.0, 0.6, 5.0, 12.0});
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_NEAR(r.slopes[i], 2.0, 1e-12);
+    }
+    double const xi[] = {-3.0, 0.0, 0.6, 5.0, 12.0};
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_NEAR(r.yi[i], 2.0 * xi[i] + 1.0, 1e-12) << xi[i];
+        EXPECT_NEAR(r.dyi[i], 2.0, 1e-12) << xi[i];
+    }
+}
+
+TEST(ParabolicInterp, ThreePointTableUsesOnlyGhostChords) {
+    // Parabola y = x^2 on 0, 1, 3: extended abscissas -3, -2 | 0, 1, 3 | 4, 6, chords
+    // -5, -2, 1, 4, 7, 10, all steps 3, so every slope is the plain mean of its two chords.
+    double const x[] = {0.0, 1.0, 3.0};
+    double const y[] = {0.0, 1.0, 9.0};
+    akima_run const r = run(x, y, 3, true, {2.0});
+    EXPECT_NEAR(r.slopes[0], -0.5, 1e-13);
+    EXPECT_NEAR(r.slopes[1], 2.5, 1e-13);
+    EXPECT_NEAR(r.slopes[2], 5.5, 1e-13);
+}
+
+TEST(ParabolicInterp, SmallTables) {
+    double const x[] = {1.0, 3.0};
+    double const y[] = {2.0, 6.0};
+    akima_run const one = run(x, y, 1, true, {5.0, 6.0, 7.0});
+    EXPECT_EQ(one.yi, (std::vector<double>{2.0, 77.0, 77.0}));
+    EXPECT_EQ(one.dyi[0], -999.0);
+    EXPECT_EQ(one.slopes[0], -999.0);
+
+    // Two points: the line on both sides, whatever the flag, and zeros indexed by query.
+    akima_run const two = run(x, y, 2, false, {-1.0, 2.0, 5.0});
+    EXPECT_EQ(two.yi, (std::vector<double>{-2.0, 4.0, 10.0}));
+    EXPECT_EQ(two.dyi, (std::vector<double>{2.0, 2.0, 2.0}));
+    EXPECT_EQ(two.slopes, (std::vector<double>{0.0, 0.0, 0.0}));
+
+    double out = 0.0;
+    std::size_t const none = 0, ni = 1;
+    try {
+        Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out);
+        FAIL() << "an empty table must throw";
+    } catch (varno_calc_error const& error) {
+        EXPECT_STREQ(error.what(), "An error occurred in function Calc_ParabolicInterp");
+    }
+}
+
+TEST(Max, FirstOfTolerantlyEqualValuesWins) {
+    double maximum = -1.0;
+    std::vector<double> values = {1.0, 3.0, 2.0, 3.0, 3.0 * (1 + 2e-16)};
+    EXPECT_EQ(Calc_Max(values, &maximum), 1);
+    EXPECT_EQ(maximum, 3.0);
+
+    std::vector<double> equal(4, 5.0);
+    EXPECT_EQ(Calc_Max(equal, &maximum), 0);
+    values = {-4.0, -2.0, -3.0};
+    EXPECT_EQ(Calc_MaxLimitedRange(values.data(), 3, &maximum), 1);
+    EXPECT_EQ(maximum, -2.0);
+    EXPECT_EQ(Calc_MaxLimitedRange(values.data(), 1, &maximum), 0);
+    EXPECT_EQ(maximum, -4.0);
+
+    std::vector<double> empty;
+    EXPECT_EQ(Calc_Max(empty, &maximum), -1);
+    EXPECT_EQ(maximum, 0.0);
+}

@@ -1,0 +1,138 @@
+#include "numerics/pchip.hpp"
+
+#include <calc-common/numerics.hpp>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using VARNO::detail::chfev;
+using VARNO::detail::spline_pchip_set;
+using VARNO::detail::spline_pchip_val;
+
+namespace {
+
+double x[] = {0.0, 1.0, 2.5, 3.0, 5.0};
+double f[] = {0.0, 2.0, 1.0, 1.0, 4.0};
+
+std::vector<double> derivatives() {
+    std::vector<double> d(5);
+    spline_pchip_set(5, x, f, d.data());
+    return d;
+}
+
+} // namespace
+
+TEST(Pchip, DerivativesPreserveShape) {
+    std::vector<double> const d = derivatives();
+    // Chords 2, -2/3, 0, 3/2. Ends: three-point formula, sign-checked; inner points at a turn or
+    // next to the flat chord are 0.
+    EXPECT_NEAR(d[0], (3.5 / 2.5) * 2.0 + (-1.0 / 2.5) * (-2.0 / 3.0), 1e-14);
+    EXPECT_EQ(d[1], 0.0);
+    EXPECT_EQ(d[2], 0.0);
+    EXPECT_EQ(d[3], 0.0);
+    // Last point: -2/2.5*0 + (4.5/2.5)*1.5.
+    EXPECT_NEAR(d[4], 2.7, 1e-14);
+
+    // Same direction on both sides: Brodlie's weighted harmonic mean, worked by hand for
+    // h = 1, 3 and chords 1, 3: w1 = 5/12, w2 = 7/12, d = 1 / (5/36 + 7/12).
+    double xr[] = {0.0, 1.0, 4.0};
+    double fr[] = {0.0, 1.0, 10.0};
+    double dr[3];
+    spline_pchip_set(3, xr, fr, dr);
+    EXPECT_NEAR(dr[1], 36.0 / 26.0, 1e-14);
+
+    // A sharp turn after the first chord: the end formula's 1.5 + 2.5 is limited to 3 * 1.
+    double xs[] = {0.0, 1.0, 2.0};
+    double fs[] = {0.0, 1.0, -4.0};
+    spline_pchip_set(3, xs, fs, dr);
+    EXPECT_NEAR(dr[0], 3.0, 1e-14);
+    // Two points: both derivatives are the chord.
+    spline_pchip_set(2, xr, fr, dr);
+    EXPECT_EQ(dr[0], 1.0);
+    EXPECT_EQ(dr[1], 1.0);
+}
+
+TEST(Pchip, EvaluationHitsDataAndEmptyIntervalsAreSkipped) {
+    std::vector<double> d = derivatives();
+    double xe[] = {4.0, 4.5, 6.0};
+    double fe[3];
+    testing::internal::CaptureStderr();
+    spline_pchip_val(5, x, f, d.data(), 3, xe, fe);
+    // Had an interval without points gone to the piece evaluator, it would have complained.
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    for (int i = 0; i < 3; ++i) {
+        double one;
+        spline_pchip_val(5, x, f, d.data(), 1, xe + i, &one);
+        EXPECT_EQ(fe[i], one);
+    }
+    double knots[5];
+    spline_pchip_val(5, x, f, d.data(), 5, x, knots);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_NEAR(knots[i], f[i], 1e-14);
+    }
+}
+
+TEST(Pchip, QueriesThatStepBackAreBracketedAgain) {
+    std::vector<double> d = derivatives();
+    double xe[] = {4.0, 0.5, 2.7, -1.0, 6.0, 1.2};
+    double fe[6];
+    spline_pchip_val(5, x, f, d.data(), 6, xe, fe);
+    for (int i = 0; i < 6; ++i) {
+        double one;
+        spline_pchip_val(5, x, f, d.data(), 1, xe + i, &one);
+        EXPECT_EQ(fe[i], one) << xe[i];
+    }
+}
+
+TEST(Pchip, PieceEvaluatorCountsPointsOnEitherSideAndReportsBadInput) {
+    double xe[] = {-1.0, 0.0, 0.5, 2.0, 3.0};
+    double fe[5];
+    int next[2] = {9, 9};
+    // The cubic with f = 1, 3 and d = 0, 0 on [0, 2].
+    EXPECT_EQ(chfev(0.0, 2.0, 1.0, 3.0, 0.0, 0.0, 5, xe, fe, next), 0);
+    EXPECT_EQ(next[0], 1);
+    EXPECT_EQ(next[1], 1);
+    EXPECT_NEAR(fe[2], 1.0 + 2.0 * (3 * 0.0625 - 2 * 0.015625), 1e-14);
+    EXPECT_NEAR(fe[3], 3.0, 1e-14);
+
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(chfev(0.0, 2.0, 1.0, 3.0, 0.0, 0.0, 0, xe, fe, next), -1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "\nCHFEV - Fatal error!\n  Number of evaluation points is less than 1.\n"
+              "  NE = 0\n");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(chfev(2.0, 2.0, 1.0, 3.0, 0.0, 0.0, 1, xe, fe, next), -2);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "\nCHFEV - Fatal error!\n  The interval [X1,X2] is of zero length.\n");
+
+    std::vector<double> d = derivatives();
+    testing::internal::CaptureStderr();
+    spline_pchip_val(5, x, f, d.data(), 0, xe, fe);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "\nSPLINE_PCHIP_VAL - Fatal error!\n  Number of evaluation points less than 1.\n");
+}
+
+TEST(PchipDeathTest, FatalFaultsEndTheProcessWithTheirCodes) {
+    double repeated[] = {0.0, 1.0, 1.0};
+    double values[] = {0.0, 1.0, 2.0};
+    double d[3] = {0.0, 0.0, 0.0};
+    double q = 0.5, out = 0.0;
+    EXPECT_EXIT(spline_pchip_set(1, x, f, d), testing::ExitedWithCode(255),
+                "\nSPLINE_PCHIP_SET - Fatal error!\n  Number of data points less than 2.\n");
+    EXPECT_EXIT(spline_pchip_set(3, repeated, values, d), testing::ExitedWithCode(253),
+                "\nSPLINE_PCHIP_SET - Fatal error!\n  X array not strictly increasing.\n");
+    EXPECT_EXIT(spline_pchip_val(1, x, f, d, 1, &q, &out), testing::ExitedWithCode(255),
+                "\nSPLINE_PCHIP_VAL - Fatal error!\n  Number of data points less than 2.\n");
+    EXPECT_EXIT(spline_pchip_val(3, repeated, values, d, 1, &q, &out), testing::ExitedWithCode(253),
+                "\nSPLINE_PCHIP_VAL - Fatal error!\n  X array not strictly increasing.\n");
+
+    // Through the public entry point, the monotone and cubic kinds end the process too.
+    EXPECT_EXIT(Calc_Spline(3, repeated, values, 0.5, SPLINE_PCHIP), testing::ExitedWithCode(253),
+                "SPLINE_PCHIP_SET - Fatal error!");
+    EXPECT_EXIT(Calc_Spline(1, x, f, 0.5, SPLINE_PCHIP), testing::ExitedWithCode(255),
+                "SPLINE_PCHIP_SET - Fatal error!");
+    EXPECT_EXIT(Calc_Spline(3, repeated, values, 0.5, SPLINE_CUBIC), testing::ExitedWithCode(1),
+                "SPLINE_CUBIC_SET - Fatal error!");
+}

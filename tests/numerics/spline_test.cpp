@@ -1,0 +1,144 @@
+#include <calc-common/numerics.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <vector>
+
+#include "spline_reference.inc"
+
+namespace {
+
+// A table and its queries in the mutable arrays that Calc_Spline takes.
+struct spline_case {
+    std::vector<double> x, y, queries, expected;
+
+    template <std::size_t N, std::size_t Q>
+    spline_case(double const (&x_)[N], double const (&y_)[N], double const (&q)[Q],
+                double const (&values)[Q])
+        : x(std::begin(x_), std::end(x_))
+        , y(std::begin(y_), std::end(y_))
+        , queries(std::begin(q), std::end(q))
+        , expected(std::begin(values), std::end(values)) {}
+
+    int n() const { return static_cast<int>(x.size()); }
+    double at(double q, spline_type type) { return Calc_Spline(n(), x.data(), y.data(), q, type); }
+};
+
+// Agreement to 1e-12 relative to the larger of the value and the table's unit scale.
+void expect_agrees(double actual, double reference, double query) {
+    EXPECT_NEAR(actual, reference, 1e-12 * std::max(1.0, std::fabs(reference))) << "at " << query;
+}
+
+#define SPLINE_CASE(name)                                                                          \
+    spline_case(spline_reference::name##_x, spline_reference::name##_y,                            \
+                spline_reference::name##_queries, spline_reference::name##_values)
+
+} // namespace
+
+TEST(Spline, NaturalMatchesAnIndependentNaturalSplineOnUnevenKnots) {
+    spline_case c = SPLINE_CASE(natural_uneven);
+    std::vector<double> values(c.queries.size(), 0.0);
+    Calc_Spline(c.n(), c.x.data(), c.y.data(), static_cast<int>(c.queries.size()), c.queries.data(),
+                values.data(), SPLINE_NATURAL);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        expect_agrees(values[i], c.expected[i], c.queries[i]);
+    }
+    // The kept bracket must not depend on the order of the queries.
+    std::vector<double> reversed(c.queries.rbegin(), c.queries.rend());
+    Calc_Spline(c.n(), c.x.data(), c.y.data(), static_cast<int>(reversed.size()), reversed.data(),
+                values.data(), SPLINE_NATURAL);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        expect_agrees(values[i], c.expected[c.queries.size() - 1 - i], reversed[i]);
+    }
+}
+
+TEST(Spline, BothCubicKindsMatchTheNaturalSplineOnEvenKnots) {
+    spline_case c = SPLINE_CASE(natural_even);
+    for (std::size_t i = 0; i < c.queries.size(); ++i) {
+        expect_agrees(c.at(c.queries[i], SPLINE_NATURAL), c.expected[i], c.queries[i]);
+        expect_agrees(c.at(c.queries[i], SPLINE_CUBIC), c.expected[i], c.queries[i]);
+    }
+}
+
+TEST(Spline, PentadiagonalCubicDiffersFromNaturalOnUnevenKnotsButInterpolates) {
+    spline_case c = SPLINE_CASE(natural_uneven);
+    double largest_difference = 0.0;
+    for (std::size_t i = 0; i + 1 < c.x.size(); ++i) {
+        double const middle = 0.5 * (c.x[i] + c.x[i + 1]);
+        largest_difference = std::max(largest_difference, std::fabs(c.at(middle, SPLINE_CUBIC) -
+                                                                    c.at(middle, SPLINE_NATURAL)));
+    }
+    EXPECT_GT(largest_difference, 1e-2);
+    for (std::size_t i = 0; i < c.x.size(); ++i) {
+        EXPECT_NEAR(c.at(c.x[i], SPLINE_CUBIC), c.y[i], 1e-12) << c.x[i];
+    }
+}
+
+TEST(Spline, PchipMatchesAnIndependentMonotoneInterpolant) {
+    for (spline_case c : {SPLINE_CASE(pchip_uneven), SPLINE_CASE(pchip_monotone)}) {
+        for (std::size_t i = 0; i < c.queries.size(); ++i) {
+            expect_agrees(c.at(c.queries[i], SPLINE_PCHIP), c.expected[i], c.queries[i]);
+        }
+    }
+}
+
+TEST(Spline, PchipNeverOvershootsRisingData) {
+    spline_case c = SPLINE_CASE(pchip_monotone);
+    double previous = c.y.front();
+    double previous_natural = c.y.front();
+    bool natural_turns_back = false;
+    for (int step = 0; step <= 700; ++step) {
+        double const q = 0.01 * step;
+        double const value = c.at(q, SPLINE_PCHIP);
+        EXPECT_GE(value, previous - 1e-12) << q;
+        EXPECT_LE(value, c.y.back() + 1e-12) << q;
+        previous = value;
+        double const natural = c.at(q, SPLINE_NATURAL);
+        natural_turns_back = natural_turns_back || natural < previous_natural;
+        previous_natural = natural;
+    }
+    // The data are steep enough that a cubic spline does turn back: the check has teeth.
+    EXPECT_TRUE(natural_turns_back);
+}
+
+TEST(Spline, TwoPointsGiveTheStraightLineForEveryKind) {
+    double x[] = {1.0, 3.0};
+    double y[] = {2.0, 6.0};
+    for (spline_type type : {SPLINE_NATURAL, SPLINE_CUBIC, SPLINE_PCHIP}) {
+        for (double q : {-1.0, 1.0, 2.5, 3.0, 7.0}) {
+            EXPECT_NEAR(Calc_Spline(2, x, y, q, type), 2.0 * q, 1e-13) << type << " at " << q;
+        }
+    }
+}
+
+TEST(Spline, ArrayFormAnswersOneQueryForCubicAndPchipAndNoneForUnknownKinds) {
+    double x[] = {0.0, 1.0, 2.5, 3.0};
+    double y[] = {1.0, 3.0, 2.0, 5.0};
+    double xq[] = {0.5, 1.5, 2.0, 2.7, 4.0};
+    for (spline_type type : {SPLINE_CUBIC, SPLINE_PCHIP}) {
+        double yq[5] = {-7.0, -7.0, -7.0, -7.0, -7.0};
+        Calc_Spline(4, x, y, 5, xq, yq, type);
+        EXPECT_EQ(yq[0], Calc_Spline(4, x, y, 0.5, type));
+        EXPECT_EQ(std::count(yq + 1, yq + 5, -7.0), 4);
+    }
+    spline_type const unknown = static_cast<spline_type>(3);
+    double yq[5] = {-7.0, -7.0, -7.0, -7.0, -7.0};
+    Calc_Spline(4, x, y, 5, xq, yq, unknown);
+    EXPECT_EQ(std::count(yq, yq + 5, -7.0), 5);
+    EXPECT_EQ(Calc_Spline(4, x, y, 0.5, unknown), 0.0);
+}
+
+TEST(Spline, NaturalFailsOnlyWhenAQueryFallsInAnEmptyInterval) {
+    double x[] = {0.0, 1.0, 1.0};
+    double y[] = {0.0, 1.0, 2.0};
+    EXPECT_NO_THROW(Calc_Spline(3, x, y, 0.5, SPLINE_NATURAL));
+    try {
+        Calc_Spline(3, x, y, 1.5, SPLINE_NATURAL);
+        FAIL() << "a query in an empty interval must throw";
+    } catch (varno_calc_error const& error) {
+        EXPECT_STREQ(error.what(), "Spline interpolation failed.");
+    }
+}
