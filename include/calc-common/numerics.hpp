@@ -9,6 +9,7 @@
 #include <calc-common/frame.hpp>
 
 #include <boost/function.hpp>
+#include <boost/shared_array.hpp>
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
@@ -170,14 +171,7 @@ VARNO_CALC_COMMON_EXPORT complex_t c_exp(complex_t z);
 /// Principal square root (real part not negative), scaled so that no large part is squared.
 VARNO_CALC_COMMON_EXPORT complex_t c_sqrt(complex_t z);
 
-// ---------------------------------------------------------------------------------------------
-// Smoothing B-splines
-// ---------------------------------------------------------------------------------------------
-
-#include <calc-common/export.hpp>
-#include <calc-common/frame.hpp>
-
-#include <boost/shared_array.hpp>
+// ==== Smoothing B-splines =======================================================================
 
 namespace VARNO {
 
