@@ -13,8 +13,8 @@ std::ostream& write_text(std::ostream& os, Enumeration const& value) {
 
 } // namespace
 
-// Exhaust configurations are deliberately left without stream output: their texts are keys that
-// callers pick apart, not report lines.
+// Exhaust configurations have no stream output of their own: streaming one writes its number,
+// through the conversion to int, and their labels are reached through StringValue alone.
 
 std::ostream& operator<<(std::ostream& os, aircraft_type_t const& value) {
     return write_text(os, value);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -39,6 +40,28 @@ TEST(ResultType, WorkedHashes) {
     EXPECT_EQ(result_type_t::create_genepass(genepass_ground_reflection)->hash(), 40002u);
     EXPECT_EQ(result_type_t().hash(), 39999u);
     EXPECT_TRUE(result_type_t() == result_type_t());
+}
+
+TEST(ResultType, DefaultRecordNamesNothingAndKeepsItsFieldOrder) {
+    result_type_t const blank;
+    EXPECT_FALSE(blank.engine_source || blank.airframe_source || blank.total || blank.genepass);
+    EXPECT_EQ(blank.source_index, -1);
+    EXPECT_TRUE(blank.whole_source);
+    EXPECT_EQ(blank.component, component(0));
+    EXPECT_EQ(blank.total_type, static_cast<total_type_t>(-1));
+    EXPECT_EQ(blank.source_type, source(-1));
+    EXPECT_EQ(blank.engine_index, -1);
+    EXPECT_EQ(blank.genepass_type, static_cast<genepass_result_type_t>(-1));
+
+    // The fields are laid out in their documented order.
+    std::vector<std::size_t> const offsets = {
+        offsetof(result_type_t, engine_source), offsetof(result_type_t, airframe_source),
+        offsetof(result_type_t, source_index),  offsetof(result_type_t, whole_source),
+        offsetof(result_type_t, component),     offsetof(result_type_t, total),
+        offsetof(result_type_t, total_type),    offsetof(result_type_t, source_type),
+        offsetof(result_type_t, engine_index),  offsetof(result_type_t, genepass),
+        offsetof(result_type_t, genepass_type)};
+    EXPECT_TRUE(std::is_sorted(offsets.begin(), offsets.end()));
 }
 
 TEST(ResultType, FactoriesSetOnlyTheirFields) {

@@ -4,6 +4,8 @@
 
 #include <sstream>
 #include <string>
+#include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -18,6 +20,12 @@ std::string streamed(int value) {
     os << static_cast<Enumeration>(value);
     return os.str();
 }
+
+template <class Enumeration, class = void>
+struct has_text : std::false_type {};
+template <class Enumeration>
+struct has_text<Enumeration, decltype(void(VARNO::StringValue(std::declval<Enumeration>())))>
+    : std::true_type {};
 
 } // namespace
 
@@ -131,8 +139,14 @@ TEST(EnumerationTexts, StreamWritesTheTextExceptForTheMachOption) {
     EXPECT_EQ(streamed<source_type_t>(4), "Fan forward - buzz-saw");
     EXPECT_EQ(streamed<indicator_type_t>(30), "");
     // The Mach number option has no text: it is shown by its number.
+    static_assert(!has_text<comp_fan_noise_machper_option_t>::value, "Mach option has no text");
+    static_assert(has_text<exhaust_type_t>::value, "exhaust configurations have texts");
     EXPECT_EQ(streamed<comp_fan_noise_machper_option_t>(2), "2");
     EXPECT_EQ(streamed<comp_fan_noise_machper_option_t>(-17), "-17");
+    // An exhaust configuration has a text but no stream output of its own: it streams as its
+    // number through the conversion to int.
+    EXPECT_EQ(streamed<exhaust_type_t>(3), "3");
+    EXPECT_EQ(streamed<exhaust_type_t>(-2), "-2");
 
     std::ostringstream chained;
     chained << static_cast<time_period_t>(3) << '/' << static_cast<seasonal_adjustment_t>(1);
