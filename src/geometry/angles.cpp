@@ -9,7 +9,6 @@ using VARNO::detail::aircraft_axes;
 using VARNO::detail::degrees_to_radians;
 using VARNO::detail::line_of_sight;
 using VARNO::detail::radians_to_degrees;
-using VARNO::detail::tolerantly_above;
 using VARNO::detail::tolerantly_at_least;
 using VARNO::detail::tolerantly_at_most;
 using VARNO::detail::tolerantly_below;
@@ -67,8 +66,9 @@ void Calc_DopplerAngle(double pitch, double heading, double roll, double attack,
     vector3 const d = line_of_sight(source_x, source_y, source_z, observer_x, observer_y,
                                     observer_z, observer_height);
     double const distance = VARNO::detail::length(d);
-    // A distance on the threshold already counts as coincident here.
-    if (!tolerantly_above(distance, coincidence_length)) {
+    // A distance on the threshold already counts as coincident here; a not-a-number distance
+    // does not, and runs through to the result.
+    if (tolerantly_at_most(distance, coincidence_length)) {
         *angle = half_pi;
         return;
     }
