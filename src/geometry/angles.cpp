@@ -22,18 +22,17 @@ constexpr double coincidence_length = 1e-9;
 constexpr double half_pi = 1.5707963267948966;
 constexpr double pi = 3.141592653589793;
 
-enum class alignment { ahead, behind, between };
-
-// Cosines within rounding of +1 or -1 are taken as exact alignment, so that acos never sees a
-// value just outside its domain.
-alignment classify(double cosine) {
+// Angle in radians of a cosine. Cosines within rounding of +1 or -1 are taken as exact
+// alignment, so that acos never sees a value just outside its domain. (pi in degrees is exactly
+// 180.0, so the clamped values also convert exactly.)
+double aligned_acos(double cosine) {
     if (tolerantly_at_least(cosine, 1.0)) {
-        return alignment::ahead;
+        return 0.0;
     }
     if (tolerantly_at_most(cosine, -1.0)) {
-        return alignment::behind;
+        return pi;
     }
-    return alignment::between;
+    return std::acos(cosine);
 }
 
 } // namespace
@@ -73,18 +72,7 @@ void Calc_DopplerAngle(double pitch, double heading, double roll, double attack,
         return;
     }
     vector3 const flight = aircraft_axes(pitch, heading, roll).turned_towards_lower(attack);
-    double const cosine = VARNO::detail::dot(flight, d) / distance;
-    switch (classify(cosine)) {
-    case alignment::ahead:
-        *angle = 0.0;
-        break;
-    case alignment::behind:
-        *angle = pi;
-        break;
-    case alignment::between:
-        *angle = std::acos(cosine);
-        break;
-    }
+    *angle = aligned_acos(VARNO::detail::dot(flight, d) / distance);
 }
 
 void Calc_ElevationAngle(double source_z, double observer_z, double observer_height,
@@ -108,18 +96,7 @@ void Calc_EmissionAngle(double pitch, double path_angle, double heading, double 
         *angle = 90.0;
     } else {
         vector3 const axis = aircraft_axes(pitch, heading, roll).turned_towards_lower(-axis_angle);
-        double const cosine = VARNO::detail::dot(axis, d) / distance;
-        switch (classify(cosine)) {
-        case alignment::ahead:
-            *angle = 0.0;
-            break;
-        case alignment::behind:
-            *angle = 180.0;
-            break;
-        case alignment::between:
-            *angle = std::acos(cosine) * radians_to_degrees;
-            break;
-        }
+        *angle = aligned_acos(VARNO::detail::dot(axis, d) / distance) * radians_to_degrees;
     }
     *angle_to_path = *angle - pitch + path_angle - axis_angle;
     *angle_to_body = *angle - axis_angle;
