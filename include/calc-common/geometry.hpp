@@ -17,10 +17,11 @@
 
 // ==== Emission and observation angles ===========================================================
 
-/// Azimuth (degrees, -90 to 90) of the observer out of the aircraft's plane that holds the
-/// forward axis turned by `plane_angle` towards the lower axis, positive on the side of the
-/// lateral axis. Own frame, z down, with the usual yaw-pitch-roll axes. Not-a-number when the
-/// observer lies on the line through the source normal to both axes.
+/// Azimuth (degrees, -90 to 90) of the observer seen from the source, in the plane of the
+/// lateral axis and of the lower axis turned by `plane_angle` towards the forward axis: 0 in the
+/// aircraft's plane of symmetry, positive on the side of the lateral axis. Own frame, z down,
+/// with the usual yaw-pitch-roll axes. Not-a-number when the observer lies on the line through
+/// the source normal to both of those axes.
 VARNO_CALC_COMMON_EXPORT double Calc_AzimuthAngle(double const& source_x, double const& source_y,
                                                   double const& source_z, double const& observer_x,
                                                   double const& observer_y,
@@ -59,8 +60,8 @@ Calc_EmissionAngle(double pitch, double path_angle, double heading, double roll,
 /// (K), whose wave front of radius `wave_radius` (m) has already left: the elevation (degrees) of
 /// the source over the observer (at `observer_z` less `observer_offset`), the delay
 /// wave_radius / c (s) and the distance (m) from the emission point to the observer.
-/// Returns 0 when solved, 1 for a temperature of 0 K or a source at the speed of sound (then the
-/// unsolved results are 0.0).
+/// Returns 0 when solved, 1 for a temperature not above 0 K or a source at the speed of sound (then
+/// the unsolved results are 0.0).
 VARNO_CALC_COMMON_EXPORT int Calc_ImpactAngle(double temperature, double wave_radius, double mach,
                                               double pitch, double heading, double roll,
                                               double attack, double source_x, double source_y,

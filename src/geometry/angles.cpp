@@ -9,7 +9,6 @@ using VARNO::detail::aircraft_axes;
 using VARNO::detail::degrees_to_radians;
 using VARNO::detail::line_of_sight;
 using VARNO::detail::radians_to_degrees;
-using VARNO::detail::tolerantly_above;
 using VARNO::detail::tolerantly_at_least;
 using VARNO::detail::tolerantly_at_most;
 using VARNO::detail::tolerantly_below;
@@ -23,18 +22,17 @@ constexpr double coincidence_length = 1e-9;
 constexpr double half_pi = 1.5707963267948966;
 constexpr double pi = 3.141592653589793;
 
-enum class alignment { ahead, behind, between };
-
-// Cosines within rounding of +1 or -1 are taken as exact alignment, so that acos never sees a
-// value just outside its domain.
-alignment classify(double cosine) {
+// Angle in radians of a cosine. Cosines within rounding of +1 or -1 are taken as exact
+// alignment, so that acos never sees a value just outside its domain. (pi in degrees is exactly
+// 180.0, so the clamped values also convert exactly.)
+double aligned_acos(double cosine) {
     if (tolerantly_at_least(cosine, 1.0)) {
-        return alignment::ahead;
+        return 0.0;
     }
     if (tolerantly_at_most(cosine, -1.0)) {
-        return alignment::behind;
+        return pi;
     }
-    return alignment::between;
+    return std::acos(cosine);
 }
 
 } // namespace
@@ -67,24 +65,14 @@ void Calc_DopplerAngle(double pitch, double heading, double roll, double attack,
     vector3 const d = line_of_sight(source_x, source_y, source_z, observer_x, observer_y,
                                     observer_z, observer_height);
     double const distance = VARNO::detail::length(d);
-    // A distance on the threshold already counts as coincident here.
-    if (!tolerantly_above(distance, coincidence_length)) {
+    // A distance on the threshold already counts as coincident here; a not-a-number distance
+    // does not, and runs through to the result.
+    if (tolerantly_at_most(distance, coincidence_length)) {
         *angle = half_pi;
         return;
     }
     vector3 const flight = aircraft_axes(pitch, heading, roll).turned_towards_lower(attack);
-    double const cosine = VARNO::detail::dot(flight, d) / distance;
-    switch (classify(cosine)) {
-    case alignment::ahead:
-        *angle = 0.0;
-        break;
-    case alignment::behind:
-        *angle = pi;
-        break;
-    case alignment::between:
-        *angle = std::acos(cosine);
-        break;
-    }
+    *angle = aligned_acos(VARNO::detail::dot(flight, d) / distance);
 }
 
 void Calc_ElevationAngle(double source_z, double observer_z, double observer_height,
@@ -108,18 +96,7 @@ void Calc_EmissionAngle(double pitch, double path_angle, double heading, double 
         *angle = 90.0;
     } else {
         vector3 const axis = aircraft_axes(pitch, heading, roll).turned_towards_lower(-axis_angle);
-        double const cosine = VARNO::detail::dot(axis, d) / distance;
-        switch (classify(cosine)) {
-        case alignment::ahead:
-            *angle = 0.0;
-            break;
-        case alignment::behind:
-            *angle = 180.0;
-            break;
-        case alignment::between:
-            *angle = std::acos(cosine) * radians_to_degrees;
-            break;
-        }
+        *angle = aligned_acos(VARNO::detail::dot(axis, d) / distance) * radians_to_degrees;
     }
     *angle_to_path = *angle - pitch + path_angle - axis_angle;
     *angle_to_body = *angle - axis_angle;

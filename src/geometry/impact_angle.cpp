@@ -8,6 +8,7 @@
 
 using VARNO::detail::tolerantly_above;
 using VARNO::detail::tolerantly_at_least;
+using VARNO::detail::tolerantly_at_most;
 using VARNO::detail::tolerantly_below;
 using VARNO::detail::vector3;
 
@@ -51,7 +52,8 @@ int Calc_ImpactAngle(double temperature, double wave_radius, double mach, double
     double const dy = observer_y - source_y;
     // Height of the source over the observer: the other way round from dx and dy.
     double const dz = source_z - (observer_z - observer_offset);
-    if (!tolerantly_above(c2, negligible)) {
+    // A not-a-number temperature is not caught here: it runs through to the results.
+    if (tolerantly_at_most(c2, negligible)) {
         *elevation = 0.0;
         *delay = 0.0;
         *distance = 0.0;
@@ -68,7 +70,7 @@ int Calc_ImpactAngle(double temperature, double wave_radius, double mach, double
         velocity.x * velocity.x + velocity.y * velocity.y + velocity.z * velocity.z - c2;
     double const b = velocity.y * dy + velocity.x * dx - velocity.z * dz - (wave_radius / c) * c2;
     double const k = dx * dx + dy * dy + dz * dz - (wave_radius / c) * (wave_radius / c) * c2;
-    if (!tolerantly_above(std::fabs(a), negligible)) {
+    if (tolerantly_at_most(std::fabs(a), negligible)) {
         // A source at the speed of sound: the wave fronts pile up and there is no single root.
         *elevation = 0.0;
         *distance = 0.0;

@@ -29,29 +29,20 @@ foot_points on_flight_line(vector3 const& flight, vector3 const& source, vector3
             {t * flight.x + source.x, t * flight.y + source.y, t * flight.z + source.z}};
 }
 
-_lateral_distance_inex_data_t make_inex(int type, double x, double y, double z) {
-    _lateral_distance_inex_data_t inex;
-    inex.inex_type = type;
-    inex.point_x = x;
-    inex.point_y = y;
-    inex.point_z = z;
-    return inex;
-}
-
 } // namespace
 
 _lateral_distance_inex_data_t lateral_distance_inex_normal() {
-    return make_inex(0, 0.0, 0.0, 0.0);
+    return {0, 0.0, 0.0, 0.0};
 }
 
 _lateral_distance_inex_data_t
 lateral_distance_inex_take_off_before_brake_release(double x, double y, double z) {
-    return make_inex(1, x, y, z);
+    return {1, x, y, z};
 }
 
 _lateral_distance_inex_data_t lateral_distance_inex_approach_after_50ft(double x, double y,
                                                                         double z) {
-    return make_inex(2, x, y, z);
+    return {2, x, y, z};
 }
 
 void Calc_LateralDistance(double pitch, double heading, double roll, double attack, double source_x,

@@ -1,7 +1,6 @@
 #include <calc-common/geometry.hpp>
 
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -13,7 +12,10 @@ struct sample_pair {
 
 // Greedy warping path from the first samples to the last: from each pair, step to the
 // neighbouring pair whose samples are closest in value. Candidates are offered in the order
-// "second alone, first alone, both", and only a strictly cheaper one displaces an earlier one.
+// "second alone, first alone, both", and only a strictly cheaper one displaces an earlier one
+// (so a not-a-number cost never displaces, nor is displaced). Costs are recomputed rather than
+// cached: a cost is one subtraction, cheaper than any lookup, and gives the identical value
+// each time, so the path is the same.
 std::vector<sample_pair> greedy_path(std::vector<double> const& first,
                                      std::vector<double> const& second) {
     auto cost = [&](sample_pair p) { return std::fabs(second[p.i] - first[p.j]); };

@@ -67,6 +67,9 @@ TEST(DopplerAngle, CoincidentPointsAndTheObserverHeight) {
     // A separation on the threshold still counts as coincident here.
     Calc_DopplerAngle(0, 0, 0, 0, 0.0, 0.0, 0.0, 1e-9, 0.0, 0.0, 0.0, &angle);
     EXPECT_EQ(angle, 1.5707963267948966);
+    // A not-a-number distance is not taken for coincidence: it runs through.
+    Calc_DopplerAngle(0, 0, 0, 0, 0.0, 0.0, 0.0, std::nan(""), 0.0, 0.0, 0.0, &angle);
+    EXPECT_TRUE(std::isnan(angle));
 }
 
 TEST(EmissionAngle, AxisIsRaisedAndDerivedAnglesFollow) {

@@ -108,6 +108,14 @@ TEST(ImpactAngle, UnsolvableCasesReportOne) {
     // At 288.15 K this gas constant gives the library's sea-level speed of sound.
     EXPECT_NEAR(sonic.delay, 50.0 / VARNO::detail::sea_level_speed_of_sound, 1e-15);
 
+    // Not-a-number temperature or Mach number is not taken for either case: it runs through.
+    for (impact const unknown : {solve(std::nan(""), 50.0, 0.3, 0.0, 0.0, 300.0, 100.0, 0.0),
+                                 solve(288.15, 50.0, std::nan(""), 0.0, 0.0, 300.0, 100.0, 0.0)}) {
+        EXPECT_EQ(unknown.status, 0);
+        EXPECT_TRUE(std::isnan(unknown.elevation));
+        EXPECT_TRUE(std::isnan(unknown.distance));
+    }
+
     // At rest, the distance is the plain distance.
     impact const still = solve(288.15, 0.0, 0.0, 0.0, 0.0, 300.0, 400.0, 0.0);
     EXPECT_EQ(still.status, 0);

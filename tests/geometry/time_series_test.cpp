@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -39,6 +40,18 @@ TEST(AlignTimeSeries, TiesRunThroughSecondThenFirst) {
     alignment const a = align({5.0, 5.0, 5.0}, {5.0, 5.0});
     EXPECT_EQ(a.second_links, (links{{0}, {0, 1, 2}}));
     EXPECT_EQ(a.first_links, (links{{0, 1}, {1}, {1}}));
+}
+
+TEST(AlignTimeSeries, NotANumberCostNeitherDisplacesNorIsDisplaced) {
+    double const nan = std::nan("");
+    // Costs 5, nan, nan: a not-a-number is never strictly cheaper, so the step in `second` stays.
+    alignment const later = align({0.0, nan}, {0.0, 5.0});
+    EXPECT_EQ(later.second_links, (links{{0}, {0, 1}}));
+    EXPECT_EQ(later.first_links, (links{{0, 1}, {1}}));
+    // Costs nan, 1, nan: nothing compares below the not-a-number, so the first candidate stays.
+    alignment const first = align({0.0, 1.0}, {0.0, nan});
+    EXPECT_EQ(first.second_links, (links{{0}, {0, 1}}));
+    EXPECT_EQ(first.first_links, (links{{0, 1}, {1}}));
 }
 
 TEST(AlignTimeSeries, EmptyInputLeavesOutputsAndFilledOutputsAreAppendedTo) {
