@@ -77,7 +77,8 @@ TEST(AtmosphericAbsorption, UnusableFrequenciesAndLevelsStayInTheirElement) {
 }
 
 TEST(AtmosphericAbsorption, UnknownMethodLeavesTheSpectrumAlone) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
+    // Returns before it looks at the air, so none need be given.
+    boost::shared_ptr<ambient_conditions_t> const ambient;
     for (int method : {3, 5, -1}) {
         auto spectrum = listed_spectrum({125.0, 4000.0}, 70.0);
         VARNO::TrrApi::AtmAbsCorrection(static_cast<atm_abs_method_t>(method), spectrum, 500.0,
@@ -108,9 +109,6 @@ TEST(AtmosphericAbsorption, FrequenciesComeFromAnyKindOfGrid) {
 
 TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
     auto const ambient = air(288.15, 101325.0, 70.0);
-    // 4000 Hz is not above the limit and keeps its own frequency.
-    EXPECT_NEAR(coefficient(atm_abs_arp866, 4000.0, ambient),
-                coefficient(atm_abs_arp866, 4000.0 - 1e-9, ambient), 1e-9);
     // A listed centre is matched within 1 mHz and rated at its effective frequency.
     EXPECT_GT(coefficient(atm_abs_arp866, 5000.0, ambient), 1.0);
     EXPECT_EQ(coefficient(atm_abs_arp866, 5000.0005, ambient),
@@ -129,6 +127,8 @@ TEST(AtmosphericAbsorption, Air1845IsAFixedTableOfTheBand) {
     EXPECT_EQ(coefficient(atm_abs_sae_air1845, 45.0, warm), 0.033);
     EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, warm), 9.836);
     EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11300.0, warm), 0.0);
+    // The table reads nothing of the air, so none need be given.
+    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1000.0, nullptr), 0.59);
 }
 
 TEST(AtmosphericAbsorption, Arp5534IsABandLossOverThePath) {
