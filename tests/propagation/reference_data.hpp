@@ -17,6 +17,13 @@ struct absorption_reference {
     double loss;
 };
 
+struct iso9613_reference {
+    double temperature;
+    double relative_humidity;
+    int band;
+    double db_per_km;
+};
+
 struct ground_reference {
     int method;
     int grid; // 0 third-octave, 1 listed, 2 narrowband

@@ -45,4 +45,10 @@ TEST(Attenuation, MapKeysAreResultIdentities) {
     EXPECT_EQ(map.begin()->first->hash(), 20002u);
     EXPECT_EQ(map.rbegin()->first->hash(), 30200u);
     EXPECT_EQ(map.count(result_type_t::create_total_engine()), 1u);
+
+    // The map holds its comparison function: the identity order, by default or when given.
+    EXPECT_EQ(map.key_comp().compare, &result_type_t::less_than);
+    auto const given = boost::make_shared<attenuations_t>(&result_type_t::less_than);
+    (*given)[result_type_t::create_total_engine()] = boost::make_shared<attenuation_list_t>();
+    EXPECT_EQ(given->count(result_type_t::create_total_engine()), 1u);
 }
