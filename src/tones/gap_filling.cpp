@@ -16,7 +16,7 @@ namespace {
 // value.
 struct gap_value_bands {
     double gap_value;
-    bool is_gap(double level) const { return VARNO::detail::tolerantly_equal(level, gap_value); }
+    bool is_gap(double level) const { return VARNO::detail::tolerantly_same(level, gap_value); }
     bool is_value(double level) const { return !is_gap(level); }
 };
 

@@ -56,6 +56,13 @@ inline edge_overlap overlap_around(double edge_hz) {
     return {edge_hz / band_edge_overlap, edge_hz * band_edge_overlap};
 }
 
+/// a = b tolerantly for tone levels: each is tolerantly at most the other. Unlike the shared
+/// tolerantly_equal, a not-a-number or an infinite level equals nothing, itself included, so such
+/// a level is never taken for a gap of the floor or for the level of a tone.
+inline bool tolerantly_same(double a, double b) {
+    return tolerantly_at_most(a, b) && tolerantly_at_most(b, a);
+}
+
 /// Comparison policies: the spectrum forms of the tone routines compare tolerantly, their array
 /// twins with the plain operators.
 struct tolerant_comparison {
