@@ -91,6 +91,9 @@ void fill_trailing_gap(double* levels, std::size_t n, Bands const& bands) {
 
 template <class Bands>
 void fill_gaps(double* levels, std::size_t n, Bands const& bands) {
+    if (n == 0) {
+        return; // a spectrum with no band has no gap
+    }
     fill_inner_gaps(levels, n, bands);
     fill_leading_gap(levels, n, bands);
     fill_trailing_gap(levels, n, bands);

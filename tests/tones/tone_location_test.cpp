@@ -164,6 +164,7 @@ TEST(GapFilling, InterpolatesInnerGapsAndExtendsTheEnds) {
     EXPECT_EQ(filled(gaps_only), gaps_only);
     EXPECT_EQ(filled(flat_with_peak(0.0, 23, 60.0)), flat_with_peak(0.0, 23, 60.0));
     EXPECT_EQ(filled(flat_with_peak(0.0, 0, 60.0)), flat_with_peak(0.0, 0, 60.0));
+    EXPECT_EQ(filled({}), std::vector<double>{});
 }
 
 TEST(GapFilling, GapValueAndTheArrayRuleForGaps) {
