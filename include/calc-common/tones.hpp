@@ -36,9 +36,10 @@ VARNO_CALC_COMMON_EXPORT void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> sp
                                                 boost::shared_ptr<spectrum_t> broadband,
                                                 boost::shared_ptr<spectrum_t> tones);
 
-/// Fills, in place, the bands of `spectrum` whose level equals `gap_value`: inner gaps by linear
-/// interpolation between the values around them, a leading or trailing gap by extending the line
-/// through the two nearest values. The extension is not limited and may go below zero.
+/// Fills, in place, the bands of `spectrum` whose level equals `gap_value` (within rounding; a
+/// level that is not a number or infinite is never a gap): inner gaps by linear interpolation
+/// between the values around them, a leading or trailing gap by extending the line through the
+/// two nearest values. The extension is not limited and may go below zero.
 VARNO_CALC_COMMON_EXPORT void Calc_InterpSpec(boost::shared_ptr<spectrum_t> spectrum,
                                               double gap_value);
 

@@ -122,7 +122,7 @@ void write_tone_spectrum(double frequency, int index, double level,
 void restore_measured_neighbours(std::vector<double> const& tones, double level, std::size_t band,
                                  std::vector<double>& unshifted) {
     std::size_t const n = tones.size();
-    bool const level_is_in_band = tolerantly_equal(level, tones[band]);
+    bool const level_is_in_band = tolerantly_same(level, tones[band]);
     if (tones[band - 1] > empty_band_level) {
         unshifted[band - 1] = tones[band - 1];
         unshifted[band] = tones[band];

@@ -16,7 +16,7 @@ namespace {
 // value.
 struct gap_value_bands {
     double gap_value;
-    bool is_gap(double level) const { return VARNO::detail::tolerantly_equal(level, gap_value); }
+    bool is_gap(double level) const { return VARNO::detail::tolerantly_same(level, gap_value); }
     bool is_value(double level) const { return !is_gap(level); }
 };
 
@@ -91,6 +91,9 @@ void fill_trailing_gap(double* levels, std::size_t n, Bands const& bands) {
 
 template <class Bands>
 void fill_gaps(double* levels, std::size_t n, Bands const& bands) {
+    if (n == 0) {
+        return; // a spectrum with no band has no gap
+    }
     fill_inner_gaps(levels, n, bands);
     fill_leading_gap(levels, n, bands);
     fill_trailing_gap(levels, n, bands);

@@ -12,8 +12,6 @@ namespace detail {
 
 namespace {
 
-constexpr int harmonic_count = 5;
-
 void mark_on_grid(int index, std::bitset<tob_band_count>& touched) {
     if (on_grid(index, tob_band_count)) {
         touched.set(static_cast<std::size_t>(index));
@@ -30,20 +28,14 @@ void Calc_HarmonicBands(double fundamental, std::vector<int>& bands) {
             continue;
         }
         int const band = band_number(frequency);
-        int const index = tob_index_of_band(band);
-        switch (edge_zone_of(frequency, band)) {
-        case edge_zone::lower_overlap:
-            mark_on_grid(index - 1, touched);
-            mark_on_grid(index, touched);
-            break;
-        case edge_zone::upper_overlap:
-            mark_on_grid(index, touched);
-            mark_on_grid(index + 1, touched);
-            break;
-        case edge_zone::inside:
-            mark_on_grid(index, touched);
-            break;
+        edge_zone const zone = edge_zone_of(frequency, band);
+        if (zone == edge_zone::inside) {
+            mark_on_grid(tob_index_of_band(band), touched);
+            continue;
         }
+        int const lower_index = shared_edge_of(zone, band).lower_index;
+        mark_on_grid(lower_index, touched);
+        mark_on_grid(lower_index + 1, touched);
     }
     bands.clear();
     for (std::size_t index = 0; index < touched.size(); ++index) {

@@ -18,7 +18,6 @@ namespace detail {
 
 namespace {
 
-constexpr int harmonic_count = 5;
 constexpr double least_tone_excess_db = 3.0;  // a tone must stand more than this above the floor
 constexpr double shared_band_cut_db = 3.0;    // a band shared by two harmonics keeps about half
 constexpr double least_shared_tone_db = 0.1;  // a band holding a tone worth settling
@@ -43,17 +42,14 @@ harmonic_entry place_harmonic(double frequency) {
     if (zone == edge_zone::inside) {
         return {index, index, 1.0};
     }
-    bool const at_lower_edge = zone == edge_zone::lower_overlap;
-    edge_overlap const overlap =
-        overlap_around(at_lower_edge ? band_lower_edge(number) : band_upper_edge(number));
+    shared_edge const edge = shared_edge_of(zone, number);
     // The shares of a 100 dB tone, as the split gives them; the reference energy cancels out.
     double const reference_energy = 1e10;
-    double const hi = overlap.high;
-    double const lo = overlap.low;
+    double const hi = edge.overlap.high;
+    double const lo = edge.overlap.low;
     double const ratio = ((hi - frequency) * reference_energy / (hi - lo)) /
                          ((frequency - lo) * reference_energy / (hi - lo));
-    return at_lower_edge ? harmonic_entry{index - 1, index, ratio}
-                         : harmonic_entry{index, index + 1, ratio};
+    return {edge.lower_index, edge.lower_index + 1, ratio};
 }
 
 harmonic_table place_harmonics(double fundamental) {
@@ -147,14 +143,13 @@ void Calc_LevelTonesInBands(boost::shared_ptr<spectrum_t> spectrum,
             }
             add_energy_on_grid(energies, i, tone.level);
         } else if (split_low || (split_high && !keeps_whole(keep_whole, i + 1))) {
-            double const edge = split_low ? band_lower_edge(number) : band_upper_edge(number);
-            edge_overlap const overlap = overlap_around(edge);
+            shared_edge const edge = shared_edge_of(zone, number);
             double lower_share = 0.0;
             double upper_share = 0.0;
-            Calc_SplitTone(tone.level, f, overlap.low, overlap.high, &lower_share, &upper_share);
-            int const lower_band = split_low ? i - 1 : i;
-            add_energy_on_grid(energies, lower_band, lower_share);
-            add_energy_on_grid(energies, lower_band + 1, upper_share);
+            Calc_SplitTone(tone.level, f, edge.overlap.low, edge.overlap.high, &lower_share,
+                           &upper_share);
+            add_energy_on_grid(energies, edge.lower_index, lower_share);
+            add_energy_on_grid(energies, edge.lower_index + 1, upper_share);
         } else {
             add_energy_on_grid(energies, i, tone.level);
         }

@@ -56,20 +56,43 @@ inline edge_overlap overlap_around(double edge_hz) {
     return {edge_hz / band_edge_overlap, edge_hz * band_edge_overlap};
 }
 
+/// The two bands that share a frequency lying in an edge overlap of band number `band`: the grid
+/// index of the lower one (the upper one follows it), and the overlap's limits.
+struct shared_edge {
+    int lower_index;
+    edge_overlap overlap;
+};
+
+inline shared_edge shared_edge_of(edge_zone zone, int band) {
+    int const index = tob_index_of_band(band);
+    if (zone == edge_zone::lower_overlap) {
+        return {index - 1, overlap_around(band_lower_edge(band))};
+    }
+    return {index, overlap_around(band_upper_edge(band))};
+}
+
+/// The tones of a fundamental that count: its first five harmonics.
+constexpr int harmonic_count = 5;
+
+/// a = b tolerantly for tone levels: each is tolerantly at most the other. Unlike the shared
+/// tolerantly_equal, a not-a-number or an infinite level equals nothing, itself included, so such
+/// a level is never taken for a gap of the floor or for the level of a tone.
+inline bool tolerantly_same(double a, double b) {
+    return tolerantly_at_most(a, b) && tolerantly_at_most(b, a);
+}
+
 /// Comparison policies: the spectrum forms of the tone routines compare tolerantly, their array
 /// twins with the plain operators.
 struct tolerant_comparison {
     static bool above(double a, double b) { return tolerantly_above(a, b); }
     static bool below(double a, double b) { return tolerantly_below(a, b); }
     static bool at_most(double a, double b) { return tolerantly_at_most(a, b); }
-    static bool at_least(double a, double b) { return tolerantly_at_least(a, b); }
 };
 
 struct plain_comparison {
     static bool above(double a, double b) { return a > b; }
     static bool below(double a, double b) { return a < b; }
     static bool at_most(double a, double b) { return a <= b; }
-    static bool at_least(double a, double b) { return a >= b; }
 };
 
 /// Slope-difference locator on bare arrays of levels.size() bands, plain comparisons.

@@ -52,16 +52,14 @@ void Calc_ToneSpectrum(double frequency, int band, double level,
         values[static_cast<std::size_t>(band)] = level;
         return;
     }
-    bool const at_lower_edge = zone == edge_zone::lower_overlap;
-    edge_overlap const overlap =
-        overlap_around(at_lower_edge ? band_lower_edge(number) : band_upper_edge(number));
+    shared_edge const edge = shared_edge_of(zone, number);
     double lower_share = 0.0;
     double upper_share = 0.0;
-    Calc_SplitTone(level, frequency, overlap.low, overlap.high, &lower_share, &upper_share);
+    Calc_SplitTone(level, frequency, edge.overlap.low, edge.overlap.high, &lower_share,
+                   &upper_share);
     // Written only once the split has succeeded, so a failed split leaves the spectrum as it was.
     // A share that falls off the grid is lost.
-    int const lower_band = at_lower_edge ? band - 1 : band;
     std::fill(values.begin(), values.end(), 0.0);
-    set_if_on_grid(values, lower_band, lower_share);
-    set_if_on_grid(values, lower_band + 1, upper_share);
+    set_if_on_grid(values, edge.lower_index, lower_share);
+    set_if_on_grid(values, edge.lower_index + 1, upper_share);
 }

@@ -146,6 +146,12 @@ TEST(DopplerizeTone, NeighbouringTonesAndTheEdgesOfTheGrid) {
     faint[9] = 0.0005;
     EXPECT_EQ(dopplerize(faint, 40.0, 1.0, 455.0, true, false).level, 70.0);
 
+    // An infinite level equals nothing, itself included: the split tone is not replaced by the
+    // band as measured.
+    doppler_outcome const infinite =
+        dopplerize(flat_with_peak(0.0, 10, -minus_infinity), 40.0, 1.0, 455.0, true, true);
+    EXPECT_EQ(infinite.unshifted[9], -minus_infinity);
+
     // First and last bands, and the top of the last band but one, have no level.
     EXPECT_EQ(dopplerize(flat_with_peak(0.0, 0, 70.0), 40.0, 1.0, 50.0, true, false).level, 0.0);
     doppler_outcome const last =

@@ -90,6 +90,11 @@ TEST(EnscaBBTones, NothingIsReadOrWrittenOffTheGrid) {
     ASSERT_EQ(overlap.tones->tones.size(), 4u);
     EXPECT_EQ(overlap.tones->tones[0].bpf_harmonic, 2.0);
 
+    // 5.6 kHz: harmonics 3 to 5 lie above the grid and are not listed.
+    harmonic_split high;
+    separate(std::vector<double>(24, 50.0), 5600.0, high);
+    EXPECT_EQ(high.tones->tones.size(), 2u);
+
     // A fundamental with no band yields no tone: all goes to broadband, and the tone list,
     // which holds tones below, at the foot of and above the grid, is unchanged. None of them
     // adds to a band.

@@ -164,6 +164,7 @@ TEST(GapFilling, InterpolatesInnerGapsAndExtendsTheEnds) {
     EXPECT_EQ(filled(gaps_only), gaps_only);
     EXPECT_EQ(filled(flat_with_peak(0.0, 23, 60.0)), flat_with_peak(0.0, 23, 60.0));
     EXPECT_EQ(filled(flat_with_peak(0.0, 0, 60.0)), flat_with_peak(0.0, 0, 60.0));
+    EXPECT_EQ(filled({}), std::vector<double>{});
 }
 
 TEST(GapFilling, GapValueAndTheArrayRuleForGaps) {
@@ -172,6 +173,11 @@ TEST(GapFilling, GapValueAndTheArrayRuleForGaps) {
     spectrum->values[6] = 0.0; // a value when the gap value is -99
     Calc_InterpSpec(spectrum, -99.0);
     EXPECT_DOUBLE_EQ(spectrum->values[5], 25.0);
+
+    // A level that is not a number equals no gap value, so it is a value and stays.
+    spectrum->values[5] = std::numeric_limits<double>::quiet_NaN();
+    Calc_InterpSpec(spectrum, 0.0);
+    EXPECT_TRUE(std::isnan(spectrum->values[5]));
 
     // In the array form a level of exactly 0.1 is neither gap nor value: the gap before it
     // finds no value to close it and stays.
