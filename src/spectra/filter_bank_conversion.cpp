@@ -150,9 +150,9 @@ void filter_bank_conversion::add_filtered_energy(acoustics::OctaveBandFilterBank
         if (passed == 0.0) {
             continue;
         }
-        double const* line_energy = &line_energies_[line * columns_];
+        double const* energies_of_line = &line_energies_[line * columns_];
         for (std::size_t column = 0; column < columns_; ++column) {
-            energies[column] += passed * line_energy[column];
+            energies[column] += passed * energies_of_line[column];
         }
     }
 }

@@ -26,10 +26,6 @@ double band_upper(std::size_t band) {
     return tob_fl[tob_first_band + band];
 }
 
-double line_energy(double level_db) {
-    return std::pow(10.0, level_db * 0.1);
-}
-
 // The bands [first, last) that the summation fills.
 struct band_span {
     std::size_t first;

@@ -7,11 +7,18 @@
 
 #include <calc-common/spectra.hpp>
 
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
 namespace VARNO {
 namespace detail {
+
+/// Energy 10^(L/10) of one line of level L dB, with no cut: the conversions cut only the band
+/// totals (or not at all), so faint lines still add up within a band.
+inline double line_energy(double level_db) {
+    return std::pow(10.0, level_db * 0.1);
+}
 
 /// Number of level columns: one for a spectrum.
 inline std::size_t column_count(spectrum_t const&) {
