@@ -263,7 +263,8 @@ enum nbtob_conversion_method : int {
 /// A listed input (df 0) is a list of lines, shared across band edges within the 1.04 overlap;
 /// `method` and `line_count` are then unused. Narrowband bands give 10*log10(energy) with no
 /// cut (a band no line reaches stays 0.0); listed lines give 0.0 for energies at or below 1.
-/// Returns 0, or 1 for a wrong grid (output untouched) or an unknown method (output zeroed).
+/// Returns 0, or 1 for a wrong grid (output untouched) or an unknown method, which is noticed at
+/// the first narrowband level summed (output zeroed; an input with no line is not refused).
 VARNO_CALC_COMMON_EXPORT int convert_spectrum_to_tob(boost::shared_ptr<spectrum_t> input,
                                                      boost::shared_ptr<spectrum_t> output,
                                                      nbtob_conversion_method method,

@@ -173,7 +173,9 @@ int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> 
                             std::vector<double>& tob_levels) {
     std::fill_n(tob_levels.begin(), band_count * columns, 0.0);
     if (!is_known(method)) {
-        return 1;
+        // The method is read as each level is summed, so an input with no line or no column
+        // never meets it: its bands stay silent and the conversion counts as done.
+        return range.count > 0 && columns > 0 ? 1 : 0;
     }
     switch (method) {
     case nbtob_line_band:

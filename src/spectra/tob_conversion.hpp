@@ -52,7 +52,7 @@ double tob_filter_q();
 
 /// Narrowband summation of `levels` (on the regular grid `range`) into `tob_levels`, whose
 /// first 24*columns entries are overwritten. Returns 1 for an unknown method (the bands are
-/// then zero), 0 otherwise.
+/// then zero) as soon as there is a level to sum, 0 otherwise.
 int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> const& levels,
                             std::size_t columns, nbtob_conversion_method method, int line_count,
                             std::vector<double>& tob_levels);

@@ -39,6 +39,11 @@ TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
     EXPECT_EQ(convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(5), 0),
               1);
     EXPECT_EQ(output->values, std::vector<double>(24, 0.0)) << "zeroed";
+    // The method is met at the first level summed: with no line it is never refused.
+    boost::shared_ptr<spectrum_t> no_line = narrowband(0.0, -0.5, 1.0, 0.0);
+    ASSERT_EQ(no_line->frequency_range->count, 0u);
+    EXPECT_EQ(convert_spectrum_to_tob(no_line, output, static_cast<nbtob_conversion_method>(5), 0),
+              0);
 
     // A list of lines ignores the method altogether.
     boost::shared_ptr<spectrum_t> lines =
