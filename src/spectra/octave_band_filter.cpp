@@ -103,10 +103,9 @@ OctaveBandFilter::OctaveBandFilter(OctaveBandFilterBank const* bank, int band_in
     , band_index(band_index)
     , midband_frequency(exact_midband(*bank, band_index))
     , nominal_frequency(nominal_centre(*bank, band_index, midband_frequency)) {
-    double const half_band =
-        std::pow(bank->octave_ratio, 1.0 / (2.0 * static_cast<double>(bank->bands_per_octave)));
-    lower_edge = midband_frequency / half_band;
-    upper_edge = midband_frequency * half_band;
+    double const half_band = 1.0 / (2.0 * static_cast<double>(bank->bands_per_octave));
+    lower_edge = std::pow(bank->octave_ratio, -half_band) * midband_frequency;
+    upper_edge = std::pow(bank->octave_ratio, half_band) * midband_frequency;
 }
 
 OctaveBandFilter::~OctaveBandFilter() = default;

@@ -21,6 +21,11 @@ TEST(OctaveBandFilterBank, ThirdOctavesOnTheDecimalRatioAreTheLibraryGrid) {
         EXPECT_EQ(filter.nominal_frequency, tob_fc_nominal[16 + i]);
         EXPECT_NEAR(filter.lower_edge, tob_fl[16 + i], 1e-11 * tob_fl[16 + i]);
         EXPECT_NEAR(filter.upper_edge, tob_fl[17 + i], 1e-11 * tob_fl[17 + i]);
+        // The edges are G^(-1/2b) and G^(1/2b) times the centre, to the last bit.
+        EXPECT_EQ(filter.lower_edge,
+                  std::pow(bank.octave_ratio, -1.0 / 6.0) * filter.midband_frequency);
+        EXPECT_EQ(filter.upper_edge,
+                  std::pow(bank.octave_ratio, 1.0 / 6.0) * filter.midband_frequency);
     }
     EXPECT_NEAR(bank.filters[0].midband_frequency, std::pow(10.0, 1.7), 1e-12);
     EXPECT_EQ(bank.filters[3].midband_frequency, 100.0) << "decade bands are exact";
