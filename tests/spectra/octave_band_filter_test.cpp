@@ -32,6 +32,20 @@ TEST(OctaveBandFilterBank, ThirdOctavesOnTheDecimalRatioAreTheLibraryGrid) {
     EXPECT_EQ(bank.filters[23].midband_frequency, 10000.0);
 }
 
+TEST(OctaveBandFilterBank, DesignQIsComputedInTheOrderOfItsFormula) {
+    // (pi/2 / N) * 1/(G^(0.5/b) - G^(-0.5/b)) / sin(pi/(2N)), to the last bit, for the orders
+    // and ratios where a regrouped product rounds differently.
+    double const pi = std::acos(-1.0);
+    for (std::size_t order : {2u, 4u, 5u}) {
+        OctaveBandFilterBank const bank(1, 1000.0, 1000.0, order, true);
+        double const n = static_cast<double>(order);
+        EXPECT_EQ(bank.q_design, (pi / 2.0 / n) *
+                                     (1.0 / (std::pow(2.0, 0.5) - std::pow(2.0, -0.5))) /
+                                     std::sin(pi / (2.0 * n)))
+            << order;
+    }
+}
+
 TEST(OctaveBandFilterBank, DecadeCorrectionsAndNominalTables) {
     // Base-two octaves from 1 Hz: band 20 is moved from 1000 * 2^-10 onto 1 Hz exactly, and
     // its edges follow the corrected centre.
