@@ -67,7 +67,7 @@ filter_bank_conversion::filter_bank_conversion(frequency_range_t const& range,
     , octaves_(1, bank_low_hz, bank_high_hz, bank_order, bank_base_two) {
     // Each line's energy is needed by every band whose filter passes it: take it once.
     for (std::size_t entry = 0; entry < line_energies_.size(); ++entry) {
-        line_energies_[entry] = level_to_energy(levels[entry]);
+        line_energies_[entry] = line_energy(levels[entry]);
     }
 }
 
@@ -90,7 +90,7 @@ void filter_bank_conversion::band_levels(std::size_t bands_per_octave, double f_
         add_band_energy(bank, *filter, band_energies);
     }
     for (double& level : levels) {
-        level = energy_to_level(level);
+        level = band_level(level);
     }
 }
 

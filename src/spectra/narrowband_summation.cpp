@@ -191,8 +191,7 @@ int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> 
         break;
     }
     for (std::size_t entry = 0; entry < band_count * columns; ++entry) {
-        double& band = tob_levels[entry];
-        band = tolerantly_equal(band, 0.0) ? 0.0 : 10.0 * std::log10(band);
+        tob_levels[entry] = band_level(tob_levels[entry]);
     }
     return 0;
 }

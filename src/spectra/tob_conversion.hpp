@@ -7,6 +7,8 @@
 
 #include <calc-common/spectra.hpp>
 
+#include "frame/numeric_helpers.hpp"
+
 #include <cmath>
 #include <cstddef>
 #include <vector>
@@ -18,6 +20,12 @@ namespace detail {
 /// totals (or not at all), so faint lines still add up within a band.
 inline double line_energy(double level_db) {
     return std::pow(10.0, level_db * 0.1);
+}
+
+/// Level in dB of a narrowband band energy, with no cut: a small energy gives a negative level,
+/// and only a band that no energy reaches stays 0.0.
+inline double band_level(double energy) {
+    return VARNO::detail::tolerantly_equal(energy, 0.0) ? 0.0 : 10.0 * std::log10(energy);
 }
 
 /// Number of level columns: one for a spectrum.
