@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 #include <boost/make_shared.hpp>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

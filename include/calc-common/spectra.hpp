@@ -263,7 +263,8 @@ enum nbtob_conversion_method : int {
 /// A listed input (df 0) is a list of lines, shared across band edges within the 1.04 overlap;
 /// `method` and `line_count` are then unused. Narrowband bands give 10*log10(energy) with no
 /// cut (a band no line reaches stays 0.0); listed lines give 0.0 for energies at or below 1.
-/// Returns 0, or 1 for a wrong grid (output untouched) or an unknown method (output zeroed).
+/// Returns 0, or 1 for a wrong grid (output untouched) or an unknown method, which is noticed at
+/// the first narrowband level summed (output zeroed; an input with no line is not refused).
 VARNO_CALC_COMMON_EXPORT int convert_spectrum_to_tob(boost::shared_ptr<spectrum_t> input,
                                                      boost::shared_ptr<spectrum_t> output,
                                                      nbtob_conversion_method method,
@@ -327,8 +328,9 @@ namespace TrrApi {
 /// the grid). Method 0 gives ideal rectangular bands, 2 shares each line by the part of its
 /// width df that a band covers, and any other a Butterworth response of order 3 whose noise
 /// bandwidth is the band's width. A band narrower than ten lines is not resolved: it takes the
-/// part of its octave band's energy that the lines' widths place in it. Levels at or below
-/// 1 dB carry no energy, and bands at or below 1 in energy are 0.0. `output` must be on the
+/// part of its octave band's energy that the lines' widths place in it. As in the narrowband
+/// summation, every line carries 10^(L/10) with no cut, and a band reads 10*log10 of its energy
+/// (0.0 only when none reaches it). `output` must be on the
 /// third-octave grid; its values are replaced.
 VARNO_CALC_COMMON_EXPORT void NbToTob(boost::shared_ptr<spectrum_t> input,
                                       boost::shared_ptr<spectrum_t> output,

@@ -67,7 +67,7 @@ filter_bank_conversion::filter_bank_conversion(frequency_range_t const& range,
     , octaves_(1, bank_low_hz, bank_high_hz, bank_order, bank_base_two) {
     // Each line's energy is needed by every band whose filter passes it: take it once.
     for (std::size_t entry = 0; entry < line_energies_.size(); ++entry) {
-        line_energies_[entry] = level_to_energy(levels[entry]);
+        line_energies_[entry] = line_energy(levels[entry]);
     }
 }
 
@@ -90,7 +90,7 @@ void filter_bank_conversion::band_levels(std::size_t bands_per_octave, double f_
         add_band_energy(bank, *filter, band_energies);
     }
     for (double& level : levels) {
-        level = energy_to_level(level);
+        level = band_level(level);
     }
 }
 
@@ -150,9 +150,9 @@ void filter_bank_conversion::add_filtered_energy(acoustics::OctaveBandFilterBank
         if (passed == 0.0) {
             continue;
         }
-        double const* line_energy = &line_energies_[line * columns_];
+        double const* energies_of_line = &line_energies_[line * columns_];
         for (std::size_t column = 0; column < columns_; ++column) {
-            energies[column] += passed * line_energy[column];
+            energies[column] += passed * energies_of_line[column];
         }
     }
 }

@@ -22,7 +22,9 @@
 // line, the exact integral of a piecewise-flat spectrum) place in the finer band. White noise
 // is then shared by bandwidth, and a tone stays in the band that holds it.
 //
-// Levels at or below 1 dB carry no energy, and a band energy at or below 1 reads as silence.
+// Levels add as the narrowband summation adds them, which this conversion stands in for: every
+// line carries 10^(L/10) with no cut, so faint lines still sum to an audible band, and a band
+// reads 10*log10 of its energy, 0.0 only when no energy reaches it.
 
 #include <calc-common/spectra.hpp>
 

@@ -26,10 +26,6 @@ double band_upper(std::size_t band) {
     return tob_fl[tob_first_band + band];
 }
 
-double line_energy(double level_db) {
-    return std::pow(10.0, level_db * 0.1);
-}
-
 // The bands [first, last) that the summation fills.
 struct band_span {
     std::size_t first;
@@ -177,7 +173,9 @@ int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> 
                             std::vector<double>& tob_levels) {
     std::fill_n(tob_levels.begin(), band_count * columns, 0.0);
     if (!is_known(method)) {
-        return 1;
+        // The method is read as each level is summed, so an input with no line or no column
+        // never meets it: its bands stay silent and the conversion counts as done.
+        return range.count > 0 && columns > 0 ? 1 : 0;
     }
     switch (method) {
     case nbtob_line_band:
@@ -193,8 +191,7 @@ int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> 
         break;
     }
     for (std::size_t entry = 0; entry < band_count * columns; ++entry) {
-        double& band = tob_levels[entry];
-        band = tolerantly_equal(band, 0.0) ? 0.0 : 10.0 * std::log10(band);
+        tob_levels[entry] = band_level(tob_levels[entry]);
     }
     return 0;
 }

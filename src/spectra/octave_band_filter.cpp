@@ -103,10 +103,9 @@ OctaveBandFilter::OctaveBandFilter(OctaveBandFilterBank const* bank, int band_in
     , band_index(band_index)
     , midband_frequency(exact_midband(*bank, band_index))
     , nominal_frequency(nominal_centre(*bank, band_index, midband_frequency)) {
-    double const half_band =
-        std::pow(bank->octave_ratio, 1.0 / (2.0 * static_cast<double>(bank->bands_per_octave)));
-    lower_edge = midband_frequency / half_band;
-    upper_edge = midband_frequency * half_band;
+    double const half_band = 1.0 / (2.0 * static_cast<double>(bank->bands_per_octave));
+    lower_edge = std::pow(bank->octave_ratio, -half_band) * midband_frequency;
+    upper_edge = std::pow(bank->octave_ratio, half_band) * midband_frequency;
 }
 
 OctaveBandFilter::~OctaveBandFilter() = default;
@@ -126,10 +125,11 @@ OctaveBandFilterBank::OctaveBandFilterBank(std::size_t bands_per_octave, double 
     // The ideal band's Q widened by (pi/2N)/sin(pi/2N), so that a Butterworth band of order N
     // passes white noise over exactly the band's width.
     double const pi = std::acos(-1.0);
-    double const half_pole_angle = pi / (2.0 * static_cast<double>(order));
+    double const n = static_cast<double>(order);
     double const half_band = 0.5 / static_cast<double>(bands_per_octave);
-    q_design = half_pole_angle / std::sin(half_pole_angle) /
-               (std::pow(octave_ratio, half_band) - std::pow(octave_ratio, -half_band));
+    double const ideal_q =
+        1.0 / (std::pow(octave_ratio, half_band) - std::pow(octave_ratio, -half_band));
+    q_design = (pi / 2.0 / n) * ideal_q / std::sin(pi / (2.0 * n));
 }
 
 OctaveBandFilterBank::~OctaveBandFilterBank() = default;

@@ -7,11 +7,26 @@
 
 #include <calc-common/spectra.hpp>
 
+#include "frame/numeric_helpers.hpp"
+
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
 namespace VARNO {
 namespace detail {
+
+/// Energy 10^(L/10) of one line of level L dB, with no cut: the conversions cut only the band
+/// totals (or not at all), so faint lines still add up within a band.
+inline double line_energy(double level_db) {
+    return std::pow(10.0, level_db * 0.1);
+}
+
+/// Level in dB of a narrowband band energy, with no cut: a small energy gives a negative level,
+/// and only a band that no energy reaches stays 0.0.
+inline double band_level(double energy) {
+    return VARNO::detail::tolerantly_equal(energy, 0.0) ? 0.0 : 10.0 * std::log10(energy);
+}
 
 /// Number of level columns: one for a spectrum.
 inline std::size_t column_count(spectrum_t const&) {
@@ -45,7 +60,7 @@ double tob_filter_q();
 
 /// Narrowband summation of `levels` (on the regular grid `range`) into `tob_levels`, whose
 /// first 24*columns entries are overwritten. Returns 1 for an unknown method (the bands are
-/// then zero), 0 otherwise.
+/// then zero) as soon as there is a level to sum, 0 otherwise.
 int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> const& levels,
                             std::size_t columns, nbtob_conversion_method method, int line_count,
                             std::vector<double>& tob_levels);

@@ -21,10 +21,29 @@ TEST(OctaveBandFilterBank, ThirdOctavesOnTheDecimalRatioAreTheLibraryGrid) {
         EXPECT_EQ(filter.nominal_frequency, tob_fc_nominal[16 + i]);
         EXPECT_NEAR(filter.lower_edge, tob_fl[16 + i], 1e-11 * tob_fl[16 + i]);
         EXPECT_NEAR(filter.upper_edge, tob_fl[17 + i], 1e-11 * tob_fl[17 + i]);
+        // The edges are G^(-1/2b) and G^(1/2b) times the centre, to the last bit.
+        EXPECT_EQ(filter.lower_edge,
+                  std::pow(bank.octave_ratio, -1.0 / 6.0) * filter.midband_frequency);
+        EXPECT_EQ(filter.upper_edge,
+                  std::pow(bank.octave_ratio, 1.0 / 6.0) * filter.midband_frequency);
     }
     EXPECT_NEAR(bank.filters[0].midband_frequency, std::pow(10.0, 1.7), 1e-12);
     EXPECT_EQ(bank.filters[3].midband_frequency, 100.0) << "decade bands are exact";
     EXPECT_EQ(bank.filters[23].midband_frequency, 10000.0);
+}
+
+TEST(OctaveBandFilterBank, DesignQIsComputedInTheOrderOfItsFormula) {
+    // (pi/2 / N) * 1/(G^(0.5/b) - G^(-0.5/b)) / sin(pi/(2N)), to the last bit, for the orders
+    // and ratios where a regrouped product rounds differently.
+    double const pi = std::acos(-1.0);
+    for (std::size_t order : {2u, 4u, 5u}) {
+        OctaveBandFilterBank const bank(1, 1000.0, 1000.0, order, true);
+        double const n = static_cast<double>(order);
+        EXPECT_EQ(bank.q_design, (pi / 2.0 / n) *
+                                     (1.0 / (std::pow(2.0, 0.5) - std::pow(2.0, -0.5))) /
+                                     std::sin(pi / (2.0 * n)))
+            << order;
+    }
 }
 
 TEST(OctaveBandFilterBank, DecadeCorrectionsAndNominalTables) {

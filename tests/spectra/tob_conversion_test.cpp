@@ -39,6 +39,11 @@ TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
     EXPECT_EQ(convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(5), 0),
               1);
     EXPECT_EQ(output->values, std::vector<double>(24, 0.0)) << "zeroed";
+    // The method is met at the first level summed: with no line it is never refused.
+    boost::shared_ptr<spectrum_t> no_line = narrowband(0.0, -0.5, 1.0, 0.0);
+    ASSERT_EQ(no_line->frequency_range->count, 0u);
+    EXPECT_EQ(convert_spectrum_to_tob(no_line, output, static_cast<nbtob_conversion_method>(5), 0),
+              0);
 
     // A list of lines ignores the method altogether.
     boost::shared_ptr<spectrum_t> lines =
@@ -139,7 +144,7 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
     // Lines at 60 dB: 1 kHz lies inside its band; 900 Hz is in the overlap of the 1 kHz band's
     // lower edge (891.25 Hz * 1.04) and 1100 Hz in that of its upper edge (1122 Hz / 1.04);
     // 45 Hz shares 0.415 with a band below the grid, which is lost. Lines below 1 Hz and those
-    // of bands off the grid are dropped, and a silent line adds nothing.
+    // of bands off the grid are dropped, and a silent line alone leaves its band silent.
     double const frequencies[] = {1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0};
     double const levels[] = {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0};
     boost::shared_ptr<spectrum_t> input =
@@ -156,10 +161,17 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
         EXPECT_EQ(output->at(band), 0.0) << band;
     }
 
-    // An energy of 0.5 is cut to silence here.
-    input->values.assign(7, 10.0 * std::log10(0.5));
-    ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 0), 0);
+    // The one cut is on the band total: a band energy of 0.5 is silence, but two 0.9 dB lines
+    // (1000 and 1010 Hz) add up to 10*log10(2 * 10^0.09) = 3.9103 dB.
+    boost::shared_ptr<spectrum_t> faint =
+        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(2));
+    faint->frequency_range->frequencies = {1000.0, 1010.0};
+    faint->values = {10.0 * std::log10(0.25), 10.0 * std::log10(0.25)};
+    ASSERT_EQ(convert_spectrum_to_tob(faint, output, nbtob_line_band, 0), 0);
     EXPECT_EQ(output->at(13), 0.0);
+    faint->values = {0.9, 0.9};
+    ASSERT_EQ(convert_spectrum_to_tob(faint, output, nbtob_line_band, 0), 0);
+    EXPECT_NEAR(output->at(13), 0.9 + 10.0 * std::log10(2.0), 1e-12);
 }
 
 TEST(TobConversion, FieldColumnsConvertAsSeparateSpectra) {
