@@ -113,6 +113,12 @@ inline edge_shares shares_across_edge(double frequency_hz, double edge_hz) {
     return {(overlap_high - frequency_hz) / width, (frequency_hz - overlap_low) / width};
 }
 
+// ---- Angles --------------------------------------------------------------------------------
+
+constexpr double pi = 3.141592653589793;
+constexpr double degrees_to_radians = 0.017453292519943295;
+constexpr double radians_to_degrees = 57.29577951308232;
+
 // ---- Air -----------------------------------------------------------------------------------
 
 /// Speed of sound at sea level in the standard atmosphere, m/s (about 340.294).

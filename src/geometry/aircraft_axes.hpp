@@ -4,13 +4,12 @@
 // Plain three-vectors and the aircraft's body axes, shared by the angle and distance routines.
 // Frame: x and y horizontal, z up; heading turns from +x towards -y.
 
+#include "frame/numeric_helpers.hpp"
+
 #include <cmath>
 
 namespace VARNO {
 namespace detail {
-
-constexpr double degrees_to_radians = 0.017453292519943295;
-constexpr double radians_to_degrees = 57.29577951308232;
 
 struct vector3 {
     double x, y, z;

@@ -8,6 +8,7 @@
 using VARNO::detail::aircraft_axes;
 using VARNO::detail::degrees_to_radians;
 using VARNO::detail::line_of_sight;
+using VARNO::detail::pi;
 using VARNO::detail::radians_to_degrees;
 using VARNO::detail::tolerantly_at_least;
 using VARNO::detail::tolerantly_at_most;
@@ -19,8 +20,7 @@ namespace {
 // Below this length (in the caller's unit) source and observer count as one point.
 constexpr double coincidence_length = 1e-9;
 
-constexpr double half_pi = 1.5707963267948966;
-constexpr double pi = 3.141592653589793;
+constexpr double half_pi = pi / 2.0;
 
 // Angle in radians of a cosine. Cosines within rounding of +1 or -1 are taken as exact
 // alignment, so that acos never sees a value just outside its domain. (pi in degrees is exactly

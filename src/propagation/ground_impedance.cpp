@@ -14,8 +14,7 @@ namespace {
 
 using complex = std::complex<double>;
 
-constexpr double two_pi = 6.283185307179586;
-constexpr double degree = 0.017453292519943295;
+constexpr double two_pi = 2.0 * pi;
 constexpr complex j{0.0, 1.0};
 
 // Reflection of a surface of normalised admittance-like term w: (w - 1)/(w + 1).
@@ -92,7 +91,7 @@ complex slit_pore_reflection(double frequency, double porosity, double flow_resi
     // The impedance is made dimensionless by the air's and given its scale back, in that order.
     complex const z = std::sqrt(smith_divide(density, compressibility)) *
                       ((1.0 / air.density) / air.sound_speed) * air.impedance;
-    double const sine = std::cos((90.0 - grazing_deg) * degree);
+    double const sine = std::cos((90.0 - grazing_deg) * degrees_to_radians);
     return smith_divide(z * sine - air.impedance, z * sine + air.impedance);
 }
 

@@ -18,9 +18,7 @@ using namespace VARNO::detail;
 
 namespace {
 
-constexpr double pi = 3.141592653589793;
-constexpr double two_pi = 6.283185307179586;
-constexpr double degree = 0.017453292519943295;
+constexpr double two_pi = 2.0 * pi;
 
 // Working storage of the bands of one grid. It survives between calls so that a run over many
 // time steps and observers on one grid allocates nothing; it is rebuilt when the grid changes.
@@ -175,7 +173,7 @@ void Calc_GroundReflectionEffect(boost::shared_ptr<common_all_sources_transposit
             (boost::format("Invalid ground type: %1%.") % static_cast<int>(method)).str());
     }
     air_properties const air = air_properties::of(*ambient);
-    ray_geometry const rays{path_difference, grazing_angle, grazing_angle * degree};
+    ray_geometry const rays{path_difference, grazing_angle, grazing_angle * degrees_to_radians};
     frequency_range_t const& grid = *range;
     compute_reflection(*options, air, rays, grid, storage.reflection, *phase);
     for (std::size_t i = 0; i < storage.wavelength.size(); ++i) {

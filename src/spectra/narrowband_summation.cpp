@@ -160,7 +160,6 @@ double tob_filter_q() {
     // calls wait for it. The factor (pi/2N)/sin(pi/2N) widens the ideal-band Q so that the
     // Butterworth curve passes the band's nominal noise bandwidth.
     static double const q = [] {
-        double const pi = std::acos(-1.0);
         double const half_pole_angle = pi / (2.0 * tob_filter_order);
         double const ideal_q = 1.0 / (std::pow(2.0, 1.0 / 6.0) - std::pow(2.0, -1.0 / 6.0));
         return half_pole_angle / std::sin(half_pole_angle) * ideal_q;

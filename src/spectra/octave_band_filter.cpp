@@ -1,5 +1,7 @@
 #include <calc-common/spectra.hpp>
 
+#include "frame/numeric_helpers.hpp"
+
 #include <cmath>
 
 // Fractional-octave filters after the usual band-numbering convention: band 30 is centred on
@@ -124,12 +126,11 @@ OctaveBandFilterBank::OctaveBandFilterBank(std::size_t bands_per_octave, double 
     }
     // The ideal band's Q widened by (pi/2N)/sin(pi/2N), so that a Butterworth band of order N
     // passes white noise over exactly the band's width.
-    double const pi = std::acos(-1.0);
     double const n = static_cast<double>(order);
     double const half_band = 0.5 / static_cast<double>(bands_per_octave);
     double const ideal_q =
         1.0 / (std::pow(octave_ratio, half_band) - std::pow(octave_ratio, -half_band));
-    q_design = (pi / 2.0 / n) * ideal_q / std::sin(pi / (2.0 * n));
+    q_design = (VARNO::detail::pi / 2.0 / n) * ideal_q / std::sin(VARNO::detail::pi / (2.0 * n));
 }
 
 OctaveBandFilterBank::~OctaveBandFilterBank() = default;
