@@ -35,11 +35,15 @@ double sound_speed(double temperature) {
 
 TEST(ImpactAngle, LevelFlightMatchesTheClosedFormRetardedTime) {
     // A source in level flight at Mach M along x, now at (0, 0, h), is heard at (x, y, 0) from
-    // tau = (M x + sqrt(x^2 + (1 - M^2)(y^2 + h^2))) / (c (1 - M^2)) ago.
+    // tau = (M x + sqrt(x^2 + (1 - M^2)(y^2 + h^2))) / (c (1 - M^2)) ago. Behind a supersonic
+    // source both roots are past emissions: this one, the more recent, is heard first.
     double const temperature = 288.15, h = 300.0, c = sound_speed(temperature);
-    for (double mach : {0.0, 0.3}) {
+    for (double mach : {0.0, 0.3, 2.0}) {
         double const beta2 = 1.0 - mach * mach;
-        for (double x : {-2000.0, -150.0, 0.0, 400.0, 3000.0}) {
+        for (double x : {-3000.0, -2000.0, -150.0, 0.0, 400.0, 3000.0}) {
+            if (mach > 1.0 && x > -2000.0) {
+                continue; // not yet heard there
+            }
             for (double y : {0.0, 250.0, -600.0}) {
                 double const tau =
                     (mach * x + std::sqrt(x * x + beta2 * (y * y + h * h))) / (c * beta2);
@@ -60,23 +64,26 @@ TEST(ImpactAngle, LevelFlightMatchesTheClosedFormRetardedTime) {
 
 TEST(ImpactAngle, ClimbingWithATravelledWaveAndAnObserverOffset) {
     // Climbing at 20 degrees with a wave front of radius R already out: the time by bisection on
-    // |d + tau V| = R + c tau. The elevation takes the source's present height over the observer.
-    double const c = sound_speed(288.15), h = 500.0, x = 800.0, y = 300.0, radius = 100.0;
+    // |d + tau V| = R + c tau, which has one root with R + c tau >= 0 (a front wider than the
+    // distance gives a negative one). The elevation takes the source's present height.
+    double const c = sound_speed(288.15), h = 500.0, x = 800.0, y = 300.0;
     double const vx = 0.4 * c * std::cos(20 * degrees_to_radians);
     double const vz = 0.4 * c * std::sin(20 * degrees_to_radians);
-    double lo = 0.0, hi = 100.0;
-    for (int i = 0; i < 200; ++i) {
-        double const t = 0.5 * (lo + hi);
-        (std::hypot(x + t * vx, y, -h + t * vz) > radius + c * t ? lo : hi) = t;
+    for (double radius : {100.0, 2000.0}) {
+        double lo = -radius / c, hi = 100.0;
+        for (int i = 0; i < 200; ++i) {
+            double const t = 0.5 * (lo + hi);
+            (std::hypot(x + t * vx, y, -h + t * vz) > radius + c * t ? lo : hi) = t;
+        }
+        impact const r = solve(288.15, radius, 0.4, 20.0, 0.0, h, x, y);
+        EXPECT_EQ(r.status, 0);
+        EXPECT_NEAR(r.delay, radius / c, 1e-15);
+        EXPECT_NEAR(r.distance, radius + c * lo, 1e-8) << radius;
+        EXPECT_NEAR(r.elevation, std::asin(h / r.distance) * radians_to_degrees, 1e-9) << radius;
+        // The observer offset is subtracted from its z: these two describe the same observer.
+        EXPECT_NEAR(solve(288.15, radius, 0.4, 20.0, 0.0, h + 30.0, x, y, 10.0, 40.0).distance,
+                    r.distance, 1e-9);
     }
-    impact const r = solve(288.15, radius, 0.4, 20.0, 0.0, h, x, y);
-    EXPECT_EQ(r.status, 0);
-    EXPECT_NEAR(r.delay, radius / c, 1e-15);
-    EXPECT_NEAR(r.distance, radius + c * lo, 1e-8);
-    EXPECT_NEAR(r.elevation, std::asin(h / r.distance) * radians_to_degrees, 1e-9);
-    // The observer offset is subtracted from its z: these two describe the same observer.
-    EXPECT_NEAR(solve(288.15, radius, 0.4, 20.0, 0.0, h + 30.0, x, y, 10.0, 40.0).distance,
-                r.distance, 1e-9);
 }
 
 TEST(ImpactAngle, UnsolvableCasesReportOneAndNotANumberRunsThrough) {
