@@ -29,9 +29,9 @@ TEST(DopplerAngle, ObserversAroundTheFlightDirectionForEachAttitudeAngle) {
         {0, 0, 0, 0, 0, 500, 0, 90},    {0, 0, 0, 0, 0, -500, 0, 90},    // either side
         {0, 0, 0, 0, 0, 0, 500, 90},    {0, 0, 0, 0, 0, 0, -300, 90},    // above, below
         {0, 0, 0, 0, 300, 0, -300, 45}, {0, 90, 0, 0, 0, -700, 0, 0},    // heading 90 flies to -y
-        {30, 0, 0, 0, 2 * c30, 0, 1, 0}, {30, 0, 0, 0, 2 * c30, 0, -1, 60}, // pitch climbs
-        {0, 0, 0, 10, c10, 0, -s10, 0}, {0, 0, 0, 90, 0, 0, -50, 0},     // attack dips the path
-        {0, 0, 90, 90, 0, 50, 0, 0},                                     // roll tilts it to +y
+        {30, 0, 0, 0, 2 * c30, 0, 1, 0}, {30, 0, 0, 0, 2 * c30, 0, -1, 60}, // pitch 30 climbs
+        {0, 0, 0, 10, c10, 0, -s10, 0}, {0, 0, 0, 90, 0, 0, -50, 0},     // attack lowers the path
+        {0, 0, 90, 90, 0, 50, 0, 0},                                     // roll tilts lower to +y
     };
     // clang-format on
     for (std::size_t i = 0; i < std::size(rows); ++i) {
