@@ -1,96 +1,73 @@
 #include <calc-common/geometry.hpp>
 
+#include "frame/numeric_helpers.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
+
+using VARNO::detail::degrees_to_radians;
 
 namespace {
 
-double const pi = std::acos(-1.0);
-double const degree = pi / 180.0;
+// An attitude (pitch, heading, roll, and the attack or axis angle), the observer's offset from
+// the source at (10, 20, 300), and the expected angle in degrees.
+struct sighting {
+    double pitch, heading, roll, turn, dx, dy, dz, expected;
+};
 
-// Source at (10, 20, 300); the observer is placed by its offset from the source.
-double doppler(double pitch, double heading, double roll, double attack, double dx, double dy,
-               double dz) {
-    double angle = -1.0;
-    Calc_DopplerAngle(pitch, heading, roll, attack, 10.0, 20.0, 300.0, 10.0 + dx, 20.0 + dy,
-                      300.0 + dz, 0.0, &angle);
-    return angle;
-}
-
-double emission(double pitch, double heading, double roll, double axis_angle, double dx, double dy,
-                double dz) {
-    double angle = -1.0, to_path = -1.0, to_body = -1.0;
-    Calc_EmissionAngle(pitch, 0.0, heading, roll, axis_angle, 10.0, 20.0, 300.0, 10.0 + dx,
-                       20.0 + dy, 300.0 + dz, 0.0, &angle, &to_path, &to_body);
-    return angle;
-}
-
-double azimuth(double yaw, double roll, double pitch, double plane_angle, double dx, double dy,
-               double dz) {
-    return Calc_AzimuthAngle(1.0, 2.0, 3.0, 1.0 + dx, 2.0 + dy, 3.0 + dz, yaw, roll, pitch,
-                             plane_angle);
-}
+double const c10 = std::cos(10 * degrees_to_radians), s10 = std::sin(10 * degrees_to_radians);
+double const c30 = std::cos(30 * degrees_to_radians), s30 = std::sin(30 * degrees_to_radians);
 
 } // namespace
 
-TEST(DopplerAngle, LevelFlightSeesObserversAheadBehindBesideAboveAndBelow) {
-    EXPECT_EQ(doppler(0, 0, 0, 0, 800, 0, 0), 0.0);
-    EXPECT_EQ(doppler(0, 0, 0, 0, -800, 0, 0), pi);
-    EXPECT_NEAR(doppler(0, 0, 0, 0, 0, 500, 0), pi / 2, 1e-15);
-    EXPECT_NEAR(doppler(0, 0, 0, 0, 0, -500, 0), pi / 2, 1e-15);
-    EXPECT_NEAR(doppler(0, 0, 0, 0, 0, 0, 500), pi / 2, 1e-15);
-    EXPECT_NEAR(doppler(0, 0, 0, 0, 0, 0, -300), pi / 2, 1e-15);
-    EXPECT_NEAR(doppler(0, 0, 0, 0, 300, 0, -300), pi / 4, 1e-15);
-}
-
-TEST(DopplerAngle, EachAttitudeAngleTurnsTheFlightDirectionTheStatedWay) {
-    // Heading 90 flies towards -y.
-    EXPECT_NEAR(doppler(0, 90, 0, 0, 0, -700, 0), 0.0, 1e-7);
-    EXPECT_NEAR(doppler(0, 90, 0, 0, 0, 700, 0), pi, 1e-7);
-    // Pitch 30 climbs.
-    EXPECT_NEAR(doppler(30, 0, 0, 0, 866.0254037844386, 0, 500), 0.0, 1e-7);
-    EXPECT_NEAR(doppler(30, 0, 0, 0, 866.0254037844386, 0, -500), 60 * degree, 1e-12);
-    // Positive attack puts the flight path below the nose.
-    EXPECT_NEAR(doppler(0, 0, 0, 10, std::cos(10 * degree), 0, -std::sin(10 * degree)), 0.0, 1e-7);
-    // Attack 90 flies along the lower axis, which positive roll tilts towards +y.
-    EXPECT_NEAR(doppler(0, 0, 0, 90, 0, 0, -50), 0.0, 1e-7);
-    EXPECT_NEAR(doppler(0, 0, 90, 90, 0, 50, 0), 0.0, 1e-7);
-}
-
-TEST(DopplerAngle, CoincidentPointsAndTheObserverHeight) {
+TEST(DopplerAngle, ObserversAroundTheFlightDirectionForEachAttitudeAngle) {
+    // clang-format off
+    sighting const rows[] = {
+        {0, 0, 0, 0, 800, 0, 0, 0},     {0, 0, 0, 0, -800, 0, 0, 180},   // ahead, behind
+        {0, 0, 0, 0, 0, 500, 0, 90},    {0, 0, 0, 0, 0, -500, 0, 90},    // either side
+        {0, 0, 0, 0, 0, 0, 500, 90},    {0, 0, 0, 0, 0, 0, -300, 90},    // above, below
+        {0, 0, 0, 0, 300, 0, -300, 45}, {0, 90, 0, 0, 0, -700, 0, 0},    // heading 90 flies to -y
+        {30, 0, 0, 0, 2 * c30, 0, 1, 0}, {30, 0, 0, 0, 2 * c30, 0, -1, 60}, // pitch 30 climbs
+        {0, 0, 0, 10, c10, 0, -s10, 0}, {0, 0, 0, 90, 0, 0, -50, 0},     // attack lowers the path
+        {0, 0, 90, 90, 0, 50, 0, 0},                                     // roll tilts lower to +y
+    };
+    // clang-format on
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        sighting const& r = rows[i];
+        double angle = -1.0;
+        Calc_DopplerAngle(r.pitch, r.heading, r.roll, r.turn, 10.0, 20.0, 300.0, 10.0 + r.dx,
+                          20.0 + r.dy, 300.0 + r.dz, 0.0, &angle);
+        EXPECT_NEAR(angle, r.expected * degrees_to_radians, 1e-7) << "row " << i;
+    }
+    // The ear 60 above the ground point at 40 meets the source; on the threshold still counts as
+    // coincident; a not-a-number distance runs through.
     double angle = -1.0;
     Calc_DopplerAngle(0, 0, 0, 0, 5.0, 5.0, 100.0, 5.0, 5.0, 40.0, 60.0, &angle);
     EXPECT_EQ(angle, 1.5707963267948966);
-    Calc_DopplerAngle(0, 0, 0, 0, 5.0, 5.0, 100.0, 900.0, 5.0, 40.0, 60.0, &angle);
-    EXPECT_EQ(angle, 0.0);
-    // A separation on the threshold still counts as coincident here.
     Calc_DopplerAngle(0, 0, 0, 0, 0.0, 0.0, 0.0, 1e-9, 0.0, 0.0, 0.0, &angle);
     EXPECT_EQ(angle, 1.5707963267948966);
-    // A not-a-number distance is not taken for coincidence: it runs through.
     Calc_DopplerAngle(0, 0, 0, 0, 0.0, 0.0, 0.0, std::nan(""), 0.0, 0.0, 0.0, &angle);
     EXPECT_TRUE(std::isnan(angle));
 }
 
-TEST(EmissionAngle, AxisIsRaisedAndDerivedAnglesFollow) {
-    EXPECT_EQ(emission(0, 0, 0, 0, 800, 0, 0), 0.0);
-    EXPECT_EQ(emission(0, 0, 0, 0, -800, 0, 0), 180.0);
-    EXPECT_NEAR(emission(0, 0, 0, 0, 0, 400, 0), 90.0, 1e-12);
-    EXPECT_NEAR(emission(0, 0, 0, 0, 0, 0, -400), 90.0, 1e-12);
-    // The axis angle raises the reference axis above the nose.
-    EXPECT_NEAR(emission(0, 0, 0, 30, std::cos(30 * degree), 0, std::sin(30 * degree)), 0.0, 1e-6);
-    EXPECT_NEAR(emission(0, 0, 0, 30, 1.0, 0, 0), 30.0, 1e-12);
-    EXPECT_NEAR(emission(0, 90, 0, 0, 0, -1.0, 0), 0.0, 1e-6);
-
+TEST(EmissionAngle, AxisRaisedAboveTheNoseAndTheDerivedAngles) {
+    // clang-format off
+    sighting const rows[] = {
+        {0, 0, 0, 0, 800, 0, 0, 0},    {0, 0, 0, 0, -800, 0, 0, 180}, {0, 0, 0, 0, 0, 0, -400, 90},
+        {0, 0, 0, 30, c30, 0, s30, 0}, {0, 0, 0, 30, 1, 0, 0, 30},    {0, 90, 0, 0, 0, -1, 0, 0},
+        {5, 0, 0, 2, 400, 0, 0, 7}, // pitch adds to the raised axis
+    };
+    // clang-format on
     double angle, to_path, to_body;
-    // Pitch 5 and axis angle 2 raise the axis 7 degrees above an observer straight ahead.
-    Calc_EmissionAngle(5.0, 3.0, 0.0, 0.0, 2.0, 0, 0, 100, 400, 0, 100, 0, &angle, &to_path,
-                       &to_body);
-    EXPECT_NEAR(angle, 7.0, 1e-12);
-    EXPECT_DOUBLE_EQ(to_path, angle - 5.0 + 3.0 - 2.0);
-    EXPECT_DOUBLE_EQ(to_body, angle - 2.0);
-
-    // Coincident points give 90, and the derived angles come from it.
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        sighting const& r = rows[i];
+        Calc_EmissionAngle(r.pitch, 0.0, r.heading, r.roll, r.turn, 10.0, 20.0, 300.0, 10.0 + r.dx,
+                           20.0 + r.dy, 300.0 + r.dz, 0.0, &angle, &to_path, &to_body);
+        EXPECT_NEAR(angle, r.expected, 1e-6) << "row " << i;
+    }
+    // Coincident points give 90, and the angles to path (pitch 5, path 3, axis 2) and body.
     Calc_EmissionAngle(5.0, 3.0, 0.0, 0.0, 2.0, 0, 0, 100, 0, 0, 40, 60, &angle, &to_path,
                        &to_body);
     EXPECT_EQ(angle, 90.0);
@@ -103,19 +80,24 @@ TEST(EmissionAngle, AxisIsRaisedAndDerivedAnglesFollow) {
 }
 
 TEST(AzimuthAngle, SidesAndPlaneInABodyFrameWithZDown) {
-    EXPECT_DOUBLE_EQ(azimuth(0, 0, 0, 0, 0, 100, 0), 90.0);
-    EXPECT_DOUBLE_EQ(azimuth(0, 0, 0, 0, 0, -100, 0), -90.0);
-    EXPECT_NEAR(azimuth(0, 0, 0, 0, 0, 0, 100), 0.0, 1e-12);
-    EXPECT_NEAR(azimuth(0, 0, 0, 0, 0, 0, -100), 0.0, 1e-12);
-    EXPECT_NEAR(azimuth(0, 0, 0, 0, 0, 100, 100), 45.0, 1e-12);
-    EXPECT_TRUE(std::isnan(azimuth(0, 0, 0, 0, 100, 0, 0)));
-    // The plane angle turns the reference plane from the lower axis to the forward one.
-    EXPECT_NEAR(azimuth(0, 0, 0, 90, 100, 0, 0), 0.0, 1e-12);
-    EXPECT_NEAR(azimuth(0, 0, 0, 90, 100, 100, 0), 45.0, 1e-12);
-    // Yaw 90 points the lateral axis to -x; roll 30 tilts it downwards (+z).
-    EXPECT_NEAR(azimuth(90, 0, 0, 0, -100, 0, 0), 90.0, 1e-6);
-    EXPECT_NEAR(azimuth(0, 30, 0, 0, 0, std::cos(30 * degree), std::sin(30 * degree)), 90.0, 1e-6);
-    EXPECT_NEAR(azimuth(0, 0, 30, 0, 0, 100, 0), 90.0, 1e-12);
+    // Here the fields are yaw, roll, pitch and plane angle.
+    // clang-format off
+    sighting const rows[] = {
+        {0, 0, 0, 0, 0, 100, 0, 90},    {0, 0, 0, 0, 0, -100, 0, -90},  // sides
+        {0, 0, 0, 0, 0, 0, 100, 0},     {0, 0, 0, 0, 0, 0, -100, 0},    // plane of symmetry
+        {0, 0, 0, 0, 0, 100, 100, 45},  {0, 0, 0, 90, 100, 100, 0, 45}, // plane turned forward
+        {90, 0, 0, 0, -100, 0, 0, 90},  {0, 30, 0, 0, 0, c30, s30, 90}, // yaw 90: lateral is -x
+        {0, 0, 30, 0, 0, 100, 0, 90},                                   // roll tilts it down
+    };
+    // clang-format on
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        sighting const& r = rows[i];
+        EXPECT_NEAR(Calc_AzimuthAngle(1.0, 2.0, 3.0, 1.0 + r.dx, 2.0 + r.dy, 3.0 + r.dz, r.pitch,
+                                      r.heading, r.roll, r.turn),
+                    r.expected, 1e-6)
+            << "row " << i;
+    }
+    EXPECT_TRUE(std::isnan(Calc_AzimuthAngle(1, 2, 3, 101, 2, 3, 0, 0, 0, 0)));
 }
 
 TEST(ElevationAngle, BothFormsAndNoClamping) {

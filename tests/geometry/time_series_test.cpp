@@ -9,49 +9,31 @@ namespace {
 
 using links = std::vector<std::vector<std::size_t>>;
 
-struct alignment {
-    links second_links, first_links;
-};
-
-alignment align(std::vector<double> const& first, std::vector<double> const& second) {
-    alignment a;
-    Calc_AlignTimeSeries(first, second, a.second_links, a.first_links);
-    return a;
-}
-
 } // namespace
 
-TEST(AlignTimeSeries, GreedyPathStepsToTheNearestValues) {
-    // From (0,0): costs 2, 1, 1, the tie goes to the step in `first`; then the diagonals at 0.
-    alignment const a = align({0.0, 1.0, 2.0, 3.0}, {0.0, 2.0, 3.0});
-    EXPECT_EQ(a.second_links, (links{{0, 1}, {2}, {3}}));
-    EXPECT_EQ(a.first_links, (links{{0}, {0}, {1}, {2}}));
-
-    alignment const diagonal = align({0.0, 1.0}, {0.0, 1.0});
-    EXPECT_EQ(diagonal.second_links, (links{{0}, {1}}));
-    EXPECT_EQ(diagonal.first_links, (links{{0}, {1}}));
-
-    alignment const single = align({4.0}, {7.0});
-    EXPECT_EQ(single.second_links, (links{{0}}));
-    EXPECT_EQ(single.first_links, (links{{0}}));
-}
-
-TEST(AlignTimeSeries, TiesRunThroughSecondThenFirst) {
-    alignment const a = align({5.0, 5.0, 5.0}, {5.0, 5.0});
-    EXPECT_EQ(a.second_links, (links{{0}, {0, 1, 2}}));
-    EXPECT_EQ(a.first_links, (links{{0, 1}, {1}, {1}}));
-}
-
-TEST(AlignTimeSeries, NotANumberCostNeitherDisplacesNorIsDisplaced) {
+TEST(AlignTimeSeries, GreedyPathTiesAndNotANumberCosts) {
     double const nan = std::nan("");
-    // Costs 5, nan, nan: a not-a-number is never strictly cheaper, so the step in `second` stays.
-    alignment const later = align({0.0, nan}, {0.0, 5.0});
-    EXPECT_EQ(later.second_links, (links{{0}, {0, 1}}));
-    EXPECT_EQ(later.first_links, (links{{0, 1}, {1}}));
-    // Costs nan, 1, nan: nothing compares below the not-a-number, so the first candidate stays.
-    alignment const first = align({0.0, 1.0}, {0.0, nan});
-    EXPECT_EQ(first.second_links, (links{{0}, {0, 1}}));
-    EXPECT_EQ(first.first_links, (links{{0, 1}, {1}}));
+    struct row {
+        std::vector<double> first, second;
+        links second_links, first_links;
+    } const rows[] = {
+        // Costs 2, 1, 1 from (0,0): the tie goes to the step in `first`; then diagonals at 0.
+        {{0.0, 1.0, 2.0, 3.0}, {0.0, 2.0, 3.0}, {{0, 1}, {2}, {3}}, {{0}, {0}, {1}, {2}}},
+        {{0.0, 1.0}, {0.0, 1.0}, {{0}, {1}}, {{0}, {1}}},
+        {{4.0}, {7.0}, {{0}}, {{0}}},
+        // All equal: ties run through `second`, then `first`.
+        {{5.0, 5.0, 5.0}, {5.0, 5.0}, {{0}, {0, 1, 2}}, {{0, 1}, {1}, {1}}},
+        // Costs 5, nan, nan: a not-a-number is never strictly cheaper, so the step in `second`
+        // stays; costs nan, 1, nan: nothing compares below it, so the first candidate stays.
+        {{0.0, nan}, {0.0, 5.0}, {{0}, {0, 1}}, {{0, 1}, {1}}},
+        {{0.0, 1.0}, {0.0, nan}, {{0}, {0, 1}}, {{0, 1}, {1}}},
+    };
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        links second_links, first_links;
+        Calc_AlignTimeSeries(rows[i].first, rows[i].second, second_links, first_links);
+        EXPECT_EQ(second_links, rows[i].second_links) << "row " << i;
+        EXPECT_EQ(first_links, rows[i].first_links) << "row " << i;
+    }
 }
 
 TEST(AlignTimeSeries, EmptyInputLeavesOutputsAndFilledOutputsAreAppendedTo) {

@@ -14,38 +14,38 @@ double y_even[] = {0.0, 1.0, 0.0, 1.0};
 
 } // namespace
 
-TEST(SplineCubic, ClampedSecondDerivativesSolveTheHandSystem) {
+TEST(SplineCubic, SecondDerivativesForEachEndConditionAndTheirPieces) {
     // Zero end curvature on unit knots: 4/6*m1 + 1/6*m2 = -2 and 1/6*m1 + 4/6*m2 = 2.
     std::unique_ptr<double[]> const ypp(spline_cubic_set(4, t_even, y_even, 2, 0.0, 2, 0.0));
-    EXPECT_NEAR(ypp[0], 0.0, 1e-14);
-    EXPECT_NEAR(ypp[1], -4.0, 1e-13);
-    EXPECT_NEAR(ypp[2], 4.0, 1e-13);
-    EXPECT_NEAR(ypp[3], 0.0, 1e-14);
-
+    double const hand[] = {0.0, -4.0, 4.0, 0.0};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_NEAR(ypp[i], hand[i], 1e-13) << i;
+    }
     // A prescribed end curvature is honoured.
     std::unique_ptr<double[]> const bent(spline_cubic_set(4, t_even, y_even, 2, 1.5, 2, -0.5));
     EXPECT_NEAR(bent[0], 1.5, 1e-14);
     EXPECT_NEAR(bent[3], -0.5, 1e-14);
+    // Not-a-knot at both ends reproduces a cubic exactly.
+    double t[] = {0.0, 0.5, 1.0, 1.5, 2.0};
+    double y[5];
+    for (int i = 0; i < 5; ++i) {
+        y[i] = t[i] * t[i] * t[i] - t[i];
+    }
+    std::unique_ptr<double[]> const cubic(spline_cubic_set(5, t, y, 3, 0.0, 3, 0.0));
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_NEAR(cubic[i], 6.0 * t[i], 1e-12) << i;
+    }
 
-    // Two knots with equal end curvatures: no system is solved.
-    std::unique_ptr<double[]> const pair(spline_cubic_set(2, t_even, y_even, 0, 0.0, 0, 0.0));
-    EXPECT_EQ(pair[0], 0.0);
-    EXPECT_EQ(pair[1], 0.0);
-}
-
-TEST(SplineCubic, ValueAndDerivativesOnEveryPiece) {
-    std::unique_ptr<double[]> const ypp(spline_cubic_set(4, t_even, y_even, 2, 0.0, 2, 0.0));
     double yp = 0.0, ypp_value = 0.0;
     // First piece: y = 5/3 t - 2/3 t^3.
     EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 0.5, &yp, &ypp_value),
                 5.0 / 6.0 - 1.0 / 12.0, 1e-14);
     EXPECT_NEAR(yp, 5.0 / 3.0 - 0.5, 1e-14);
     EXPECT_NEAR(ypp_value, -2.0, 1e-14);
-    // The last knot takes the last interval and returns its value; beyond it the piece goes on.
+    // The last knot takes the last interval; beyond it the piece goes on. The data satisfy
+    // y(3 - t) = 1 - y(t), so at 3.5 the spline is 1 minus the first piece at -0.5.
     EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.0, &yp, &ypp_value), 1.0, 1e-14);
     EXPECT_NEAR(ypp_value, 0.0, 1e-13);
-    // The data satisfy y(3 - t) = 1 - y(t), so at 3.5 the spline is 1 minus the first piece at
-    // -0.5.
     EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.5, &yp, &ypp_value),
                 1.0 + 5.0 / 6.0 - 1.0 / 12.0, 1e-13);
 }
@@ -67,18 +67,4 @@ TEST(SplineCubicDeathTest, FatalFaultsEndTheProcessWithCodeOne) {
     EXPECT_EXIT(spline_cubic_set(4, t_even, y_even, 2, 0.0, 3, 0.0), testing::ExitedWithCode(1),
                 "SPLINE_CUBIC_SET - Fatal error!\n"
                 "  IBCEND must be 0, 1 or 2.\n  The input value is 3\n");
-}
-
-TEST(SplineCubic, NotAKnotEndIsReachedThroughTheBeginningCondition) {
-    // Not-a-knot at both ends reproduces a cubic exactly (on even knots, where the inner rows are
-    // the textbook ones).
-    double t[] = {0.0, 0.5, 1.0, 1.5, 2.0};
-    double y[5];
-    for (int i = 0; i < 5; ++i) {
-        y[i] = t[i] * t[i] * t[i] - t[i];
-    }
-    std::unique_ptr<double[]> const ypp(spline_cubic_set(5, t, y, 3, 0.0, 3, 0.0));
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_NEAR(ypp[i], 6.0 * t[i], 1e-12) << i;
-    }
 }

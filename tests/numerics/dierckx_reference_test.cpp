@@ -41,7 +41,7 @@ Fit fit(ReferenceCase const& reference) {
     return result;
 }
 
-TEST(DierckxReference, FitsMatchKnotsCoefficientsAndResidual) {
+TEST(DierckxReference, FitsValuesAndDerivativesMatch) {
     for (ReferenceCase const& reference : reference_cases) {
         SCOPED_TRACE(reference.name);
         Fit const result = fit(reference);
@@ -52,14 +52,7 @@ TEST(DierckxReference, FitsMatchKnotsCoefficientsAndResidual) {
                          "coefficients");
         double const residual_scale = std::max(reference.fp, 1e-20);
         EXPECT_NEAR(result.fp, reference.fp, relative_tolerance * residual_scale);
-    }
-}
 
-TEST(DierckxReference, ValuesAndDerivativesMatch) {
-    for (ReferenceCase const& reference : reference_cases) {
-        SCOPED_TRACE(reference.name);
-        Fit const result = fit(reference);
-        ASSERT_EQ(result.n, reference.n);
         std::vector<double> y(reference.points);
         std::vector<double> wrk(result.n);
         int ier = -1;
@@ -74,8 +67,8 @@ TEST(DierckxReference, ValuesAndDerivativesMatch) {
             expect_agreement(reference.derivatives[order], y.data(), reference.points,
                              "derivative " + std::to_string(order));
         }
+        int const orders = reference.k + 1;
         for (int i = 0; i < reference.spalde_points; ++i) {
-            int const orders = reference.k + 1;
             double d[6];
             VARNO::detail::spalde(result.t.data(), result.n, result.c.data(), orders,
                                   reference.spalde_at[i], d, ier);

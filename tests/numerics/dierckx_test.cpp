@@ -10,21 +10,6 @@ namespace {
 
 using namespace VARNO::detail;
 
-TEST(Fprati, FindsTheRootOfTheRationalThroughThreePoints) {
-    // r(p) = (3 - p)/(p + 1): r(0) = 3, r(1) = 1, r(5) = -1/3, r(inf) = -1, root 3.
-    double p1 = 0.0, f1 = 3.0, p3 = 5.0, f3 = -1.0 / 3.0;
-    EXPECT_NEAR(fprati(p1, f1, 1.0, 1.0, p3, f3), 3.0, 1e-15);
-    EXPECT_EQ(p1, 1.0); // f2 >= 0 replaces the left end of the bracket
-    EXPECT_EQ(f1, 1.0);
-    EXPECT_EQ(p3, 5.0);
-
-    p1 = 0.0, f1 = 3.0, p3 = -1.0, f3 = -1.0; // right end at infinity
-    EXPECT_NEAR(fprati(p1, f1, 5.0, -1.0 / 3.0, p3, f3), 3.0, 1e-15);
-    EXPECT_EQ(p1, 0.0); // f2 < 0 replaces the right end
-    EXPECT_EQ(p3, 5.0);
-    EXPECT_EQ(f3, -1.0 / 3.0);
-}
-
 TEST(Givens, RotationAnnihilatesThePivotWithoutOverflow) {
     double ww = 4.0, cos = 0.0, sin = 0.0;
     fpgivs(3.0, ww, cos, sin);

@@ -1,9 +1,12 @@
 #include <calc-common/numerics.hpp>
 
+#include "support/error_text.hpp"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -40,44 +43,36 @@ TEST(LinearInterp, ExtendsTheLineOnBothSides) {
 }
 
 TEST(ParabolicInterp, AkimaSlopesAndEndRulesMatchTheHandWorkedTable) {
-    akima_run const r = run(square_x, square_y, square_n, true, {2.0, 5.0});
+    // Inner slopes are exact for a parabola, so the first inner interval reproduces it; on [3, 7]
+    // p2 = 5/4, p3 = -1/16. Below the table the first point's slope carries on; on the last point
+    // (and one ulp beyond) the cubic's slope is t(3) = 13, beyond it the last chord, 10.
+    struct row {
+        double x, y, dy;
+    } const rows[] = {{-2.0, 1.0, -0.5},
+                      {2.0, 4.0, 4.0},
+                      {5.0, 25.5, 10.25},
+                      {7.0, 49.0, 13.0},
+                      {std::nextafter(7.0, 8.0), 49.0, 13.0},
+                      {9.0, 69.0, 10.0}};
+    std::vector<double> xi;
+    for (row const& r : rows) {
+        xi.push_back(r.x);
+    }
+    akima_run const out = run(square_x, square_y, square_n, true, xi);
     double const t[] = {-0.5, 2.0, 6.0, 13.0};
     for (std::size_t i = 0; i < square_n; ++i) {
-        EXPECT_NEAR(r.slopes[i], t[i], 1e-13) << i;
+        EXPECT_NEAR(out.slopes[i], t[i], 1e-13) << "slope " << i;
     }
-    // Inner slopes are exact for a parabola, so the first inner interval reproduces it.
-    EXPECT_NEAR(r.yi[0], 4.0, 1e-13);
-    EXPECT_NEAR(r.dyi[0], 4.0, 1e-13);
-    // On [3, 7]: p2 = 5/4, p3 = -1/16, so at 5: 9 + 6*2 + 5 - 0.5.
-    EXPECT_NEAR(r.yi[1], 25.5, 1e-13);
-    EXPECT_NEAR(r.dyi[1], 10.25, 1e-13);
-}
-
-TEST(ParabolicInterp, ExtrapolationIsAsymmetricAtTheTwoEnds) {
-    akima_run const r = run(square_x, square_y, square_n, true, {-2.0, 7.0, 9.0});
-    // Below: the first point's Akima slope.
-    EXPECT_NEAR(r.yi[0], 1.0, 1e-13);
-    EXPECT_NEAR(r.dyi[0], -0.5, 1e-13);
-    // On the last point the cubic's slope is t(3) = 13; beyond it the last chord, 10.
-    EXPECT_NEAR(r.yi[1], 49.0, 1e-12);
-    EXPECT_NEAR(r.dyi[1], 13.0, 1e-12);
-    EXPECT_NEAR(r.yi[2], 69.0, 1e-12);
-    EXPECT_NEAR(r.dyi[2], 10.0, 1e-13);
-
-    // One ulp beyond the end is still on the table.
-    double const just_beyond = std::nextafter(7.0, 8.0);
-    akima_run const edge = run(square_x, square_y, square_n, true, {just_beyond});
-    EXPECT_NEAR(edge.dyi[0], 13.0, 1e-12);
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        EXPECT_NEAR(out.yi[i], rows[i].y, 1e-12) << "at " << rows[i].x;
+        EXPECT_NEAR(out.dyi[i], rows[i].dy, 1e-12) << "at " << rows[i].x;
+    }
 }
 
 TEST(ParabolicInterp, WithoutExtrapolationClampsAndLeavesDerivativesAlone) {
     akima_run const r = run(square_x, square_y, square_n, false, {-1.0, 0.0, 8.0});
-    EXPECT_EQ(r.yi[0], 0.0);
-    EXPECT_EQ(r.yi[1], 0.0);
-    EXPECT_EQ(r.yi[2], 49.0);
-    EXPECT_EQ(r.dyi[0], 77.0);
-    EXPECT_EQ(r.dyi[1], 77.0);
-    EXPECT_EQ(r.dyi[2], 77.0);
+    EXPECT_EQ(r.yi, (std::vector<double>{0.0, 0.0, 49.0}));
+    EXPECT_EQ(r.dyi, std::vector<double>(3, 77.0));
 }
 
 TEST(ParabolicInterp, QueriesAreSweptForwardOnly) {
@@ -95,29 +90,22 @@ TEST(ParabolicInterp, QueriesAreSweptForwardOnly) {
     EXPECT_NEAR(back.yi[1], 4.3125, 1e-13);
 }
 
-TEST(ParabolicInterp, CollinearDataGiveTheStraightLine) {
+TEST(ParabolicInterp, CollinearDataAndThreePointTables) {
     double const x[] = {-1.0, 0.5, 0.75, 4.0, 10.0};
     double const y[] = {-1.0, 2.0, 2.5, 9.0, 21.0};
-    akima_run const r = run(x, y, 5, true, {-3.0, 0.0, 0.6, 5.0, 12.0});
+    std::vector<double> const xi = {-3.0, 0.0, 0.6, 5.0, 12.0};
+    akima_run const line = run(x, y, 5, true, xi);
     for (std::size_t i = 0; i < 5; ++i) {
-        EXPECT_NEAR(r.slopes[i], 2.0, 1e-12);
+        EXPECT_NEAR(line.slopes[i], 2.0, 1e-12) << i;
+        EXPECT_NEAR(line.yi[i], 2.0 * xi[i] + 1.0, 1e-12) << xi[i];
+        EXPECT_NEAR(line.dyi[i], 2.0, 1e-12) << xi[i];
     }
-    double const xi[] = {-3.0, 0.0, 0.6, 5.0, 12.0};
-    for (std::size_t i = 0; i < 5; ++i) {
-        EXPECT_NEAR(r.yi[i], 2.0 * xi[i] + 1.0, 1e-12) << xi[i];
-        EXPECT_NEAR(r.dyi[i], 2.0, 1e-12) << xi[i];
-    }
-}
-
-TEST(ParabolicInterp, ThreePointTableUsesOnlyGhostChords) {
     // Parabola y = x^2 on 0, 1, 3: extended abscissas -3, -2 | 0, 1, 3 | 4, 6, chords
     // -5, -2, 1, 4, 7, 10, all steps 3, so every slope is the plain mean of its two chords.
-    double const x[] = {0.0, 1.0, 3.0};
-    double const y[] = {0.0, 1.0, 9.0};
-    akima_run const r = run(x, y, 3, true, {2.0});
-    EXPECT_NEAR(r.slopes[0], -0.5, 1e-13);
-    EXPECT_NEAR(r.slopes[1], 2.5, 1e-13);
-    EXPECT_NEAR(r.slopes[2], 5.5, 1e-13);
+    akima_run const three = run(square_x, square_y, 3, true, {2.0});
+    EXPECT_NEAR(three.slopes[0], -0.5, 1e-13);
+    EXPECT_NEAR(three.slopes[1], 2.5, 1e-13);
+    EXPECT_NEAR(three.slopes[2], 5.5, 1e-13);
 }
 
 TEST(ParabolicInterp, SmallTables) {
@@ -136,12 +124,9 @@ TEST(ParabolicInterp, SmallTables) {
 
     double out = 0.0;
     std::size_t const none = 0, ni = 1;
-    try {
-        Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out);
-        FAIL() << "an empty table must throw";
-    } catch (varno_calc_error const& error) {
-        EXPECT_STREQ(error.what(), "An error occurred in function Calc_ParabolicInterp");
-    }
+    EXPECT_EQ(test_support::error_text(
+                  [&] { Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out); }),
+              "An error occurred in function Calc_ParabolicInterp");
 }
 
 TEST(Max, FirstOfTolerantlyEqualValuesWins) {
