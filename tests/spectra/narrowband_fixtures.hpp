@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <vector>
 
 // A level whose energy is negligible beside any other in these tests (narrowband lines are not
 // cut, so a silent 0.0 dB line would still add an energy of 1).
@@ -43,6 +44,11 @@ inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
     boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
     spectrum->fill_with(level);
     return spectrum;
+}
+
+// Noise-field columns at the given angles (degrees).
+inline boost::shared_ptr<noise_field_column_range_t> columns_at(std::vector<double> angles) {
+    return noise_field_column_range_t::from_angles(angles);
 }
 
 // Width in Hz of band `band` (0 is 50 Hz) of the third-octave grid.

@@ -61,7 +61,6 @@ TEST(Spectrum, LogAddNeedsTheVerySameGridObject) {
     boost::shared_ptr<spectrum_t> owner = tob_filled_with(20.0);
     owner->give_frequency_range_ownership();
     boost::shared_ptr<frequency_range_t> const private_range = owner->frequency_range;
-    EXPECT_TRUE(private_range->equals(tob_frequency_range_ptr));
     EXPECT_EQ(message_of_log_add(a, owner, a), expected);
     owner->give_frequency_range_ownership();
     EXPECT_EQ(owner->frequency_range, private_range) << "ownership is taken once";
@@ -93,7 +92,7 @@ TEST(Spectrum, ReserveReusesButNeverRebinds) {
     EXPECT_EQ(slot->values[5], 70.0);
 }
 
-TEST(Spectrum, FloorFrequencyAtAndListedValues) {
+TEST(Spectrum, FloorAndFrequencyAt) {
     boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(20.0);
     spectrum->values[0] = -3.0;
     spectrum->values[1] = 0.0005;
@@ -112,13 +111,6 @@ TEST(Spectrum, FloorFrequencyAtAndListedValues) {
     EXPECT_EQ(spectrum->frequency_at(2), 80.0) << "an ni tone never answers";
     EXPECT_EQ(spectrum->frequency_at(6), 200.0);
     EXPECT_EQ(spectrum->frequency_at((std::size_t(1) << 32) + 5), 171.5) << "low 32 bits";
-
-    boost::shared_ptr<frequency_range_t> own = frequency_range_t::create_dt(0);
-    spectrum_t listed(own);
-    listed.add_value(125.0, 60.0);
-    listed.add_value(250.0, 65.0);
-    EXPECT_EQ(own->frequencies, (std::vector<double>{125.0, 250.0}));
-    EXPECT_EQ(listed.values, (std::vector<double>{60.0, 65.0}));
 }
 
 TEST(Spectrum, ClearCloneAndCopy) {
@@ -128,8 +120,7 @@ TEST(Spectrum, ClearCloneAndCopy) {
     boost::shared_ptr<spectrum_t> target =
         boost::make_shared<spectrum_t>(frequency_range_t::create_nb(0, 10, 1));
     EXPECT_FALSE(spectrum->copy_to(target)) << "copy_to reports false although it copied";
-    EXPECT_EQ(target->values.size(), 24u);
-    EXPECT_EQ(target->tones.size(), 1u);
+    EXPECT_EQ(target->values, spectrum->values);
     EXPECT_NE(target->frequency_range, tob_frequency_range_ptr);
 
     boost::shared_ptr<spectrum_t> copy = spectrum->clone();

@@ -23,9 +23,8 @@ TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
               1);
     EXPECT_EQ(output->values, std::vector<double>(24, 0.0)) << "zeroed";
     // The method is met at the first level summed: with no line it is never refused.
-    boost::shared_ptr<spectrum_t> no_line = narrowband(0.0, -0.5, 1.0, 0.0);
-    ASSERT_EQ(no_line->frequency_range->count, 0u);
-    EXPECT_EQ(convert_spectrum_to_tob(no_line, output, static_cast<nbtob_conversion_method>(5), 0),
+    EXPECT_EQ(convert_spectrum_to_tob(narrowband(0.0, -0.5, 1.0, 0.0), output,
+                                      static_cast<nbtob_conversion_method>(5), 0),
               0);
 
     // A list of lines ignores the method altogether.
@@ -34,12 +33,8 @@ TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
               0);
     EXPECT_NEAR(output->at(13), 60.0, 1e-12);
 
-    boost::shared_ptr<noise_field_column_range_t> columns =
-        boost::make_shared<noise_field_column_range_t>(2, nullptr, nullptr, nullptr);
-    boost::shared_ptr<noise_field_t> field = noise_field_t::create_tob(columns);
-    EXPECT_EQ(
-        convert_noise_field_to_tob(field, noise_field_t::create_tob(columns), nbtob_line_band, 0),
-        1);
+    boost::shared_ptr<noise_field_t> field = noise_field_t::create_tob(columns_at({0.0, 90.0}));
+    EXPECT_EQ(convert_noise_field_to_tob(field, field->clone(), nbtob_line_band, 0), 1);
 }
 
 TEST(TobConversion, WholeLinesGoToTheBandThatHoldsThem) {
@@ -129,9 +124,8 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
     EXPECT_NEAR(output->at(12), 55.85111212059501, 1e-12);
     EXPECT_NEAR(output->at(13), 63.757043971866736, 1e-12);
     EXPECT_NEAR(output->at(14), 53.80368069120956, 1e-12);
-    for (std::size_t band : {1u, 11u, 15u, 16u, 23u}) {
-        EXPECT_EQ(output->at(band), 0.0) << band;
-    }
+    EXPECT_EQ(output->at(1) + output->at(11) + output->at(15) + output->at(16) + output->at(23),
+              0.0);
 
     // The one cut is on the band total: a band energy of 0.5 is silence, but two 0.9 dB lines
     // (1000 and 1010 Hz) add up to 10*log10(2 * 10^0.09) = 3.9103 dB.
