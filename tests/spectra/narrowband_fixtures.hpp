@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 // A level whose energy is negligible beside any other in these tests (narrowband lines are not
@@ -49,6 +50,18 @@ inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
 // Noise-field columns at the given angles (degrees).
 inline boost::shared_ptr<noise_field_column_range_t> columns_at(std::vector<double> angles) {
     return noise_field_column_range_t::from_angles(angles);
+}
+
+// The message log_add fails with for these operands, or "" when it adds them.
+template <class Levels>
+std::string message_of_log_add(boost::shared_ptr<Levels> a, boost::shared_ptr<Levels> b,
+                               boost::shared_ptr<Levels> result) {
+    try {
+        Levels::log_add(a, b, result);
+    } catch (varno_calc_error const& error) {
+        return error.what();
+    }
+    return "";
 }
 
 // Width in Hz of band `band` (0 is 50 Hz) of the third-octave grid.

@@ -7,21 +7,6 @@
 
 #include <string>
 
-namespace {
-
-std::string message_of_log_add(boost::shared_ptr<noise_field_t> a,
-                               boost::shared_ptr<noise_field_t> b,
-                               boost::shared_ptr<noise_field_t> result) {
-    try {
-        noise_field_t::log_add(a, b, result);
-    } catch (varno_calc_error const& error) {
-        return error.what();
-    }
-    return "";
-}
-
-} // namespace
-
 TEST(NoiseField, LevelsAreFrequencyMajorAndColumnsAreSharedUntilOwned) {
     noise_field_t field(frequency_range_t::create_dt(3), columns_at({0.0, 90.0}));
     field(2, 1) = 42.0;

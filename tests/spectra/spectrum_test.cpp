@@ -7,20 +7,6 @@
 
 #include <cmath>
 
-namespace {
-
-std::string message_of_log_add(boost::shared_ptr<spectrum_t> a, boost::shared_ptr<spectrum_t> b,
-                               boost::shared_ptr<spectrum_t> result) {
-    try {
-        spectrum_t::log_add(a, b, result);
-    } catch (varno_calc_error const& error) {
-        return error.what();
-    }
-    return "";
-}
-
-} // namespace
-
 TEST(Spectrum, LogAddSumsEnergiesWithTheOneDecibelCut) {
     struct row {
         double a;

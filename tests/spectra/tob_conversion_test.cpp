@@ -47,9 +47,8 @@ TEST(TobConversion, WholeLinesGoToTheBandThatHoldsThem) {
     for (std::size_t band = 0; band < 5; ++band) {
         EXPECT_NEAR(output->at(band), expected[band], 1e-12) << band;
     }
-    for (std::size_t band = 5; band < 24; ++band) {
-        EXPECT_EQ(output->at(band), 0.0) << "no line reaches band " << band;
-    }
+    EXPECT_EQ(std::vector<double>(output->values.begin() + 5, output->values.end()),
+              std::vector<double>(19, 0.0));
 
     // A line exactly on the 63/80 Hz edge belongs to the band above it.
     boost::shared_ptr<spectrum_t> on_edge = narrowband(tob_fl[18], tob_fl[18] + 20.0, 10.0, 20.0);

@@ -18,15 +18,10 @@ namespace {
 
 double const not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-struct checked {
-    std::vector<double> broadband;
-    std::vector<double> tones;
-};
-
 // Runs the tone check on a spectrum whose tones are the bands in `tone_bands`, with the floor
 // filled as the separation leaves it.
-checked check_tones(std::vector<double> const& levels, std::vector<std::size_t> tone_bands, int k,
-                    double margin) {
+split_levels check_tones(std::vector<double> const& levels, std::vector<std::size_t> tone_bands,
+                         int k, double margin) {
     boost::shared_ptr<spectrum_t> broadband = tob_spectrum(levels);
     boost::shared_ptr<spectrum_t> tones = tob_filled_with(0.0);
     for (std::size_t band : tone_bands) {
@@ -38,10 +33,8 @@ checked check_tones(std::vector<double> const& levels, std::vector<std::size_t> 
     return {broadband->values, tones->values};
 }
 
-struct separated {
+struct separated : split_levels {
     int k;
-    std::vector<double> broadband;
-    std::vector<double> tones;
 };
 
 separated bb_tones(std::vector<double> const& levels, double cut_frequency, int method) {
@@ -52,7 +45,11 @@ separated bb_tones(std::vector<double> const& levels, double cut_frequency, int 
                                static_cast<tone_sep_method_t>(method), 2.0, 3.0, broadband, tones);
     EXPECT_EQ(tones->tones.size(), 1u) << "the tone list is left alone";
     EXPECT_TRUE(broadband->tones.empty());
-    return {k, broadband->values, tones->values};
+    separated split;
+    split.broadband = broadband->values;
+    split.tones = tones->values;
+    split.k = k;
+    return split;
 }
 
 // Above the cut index the broadband floor and the tones add up to the input by energy.
@@ -72,7 +69,7 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     levels[11] = 56.0;
     // Pass 1 gives band 10 back (4 dB above the 50 dB floor); the floor under band 11 then
     // rises to 52 dB and pass 2 gives band 11 back too (4 dB again).
-    checked const pair = check_tones(levels, {10, 11}, 0, 4.5);
+    split_levels const pair = check_tones(levels, {10, 11}, 0, 4.5);
     EXPECT_EQ(pair.tones, std::vector<double>(24, 0.0));
     EXPECT_EQ(pair.broadband, levels);
 
@@ -80,7 +77,7 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     // floor is interpolated beneath it.
     std::vector<double> const peak = flat_with_peak(50.0, 10, 53.0);
     EXPECT_EQ(check_tones(peak, {10}, 0, 3.0).tones[10], 0.0);
-    checked const kept = check_tones(peak, {10}, 0, 2.9);
+    split_levels const kept = check_tones(peak, {10}, 0, 2.9);
     EXPECT_EQ(kept.tones[10], 53.0);
     EXPECT_EQ(kept.broadband[10], 50.0);
 
@@ -91,7 +88,7 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     // The end bands below the cut are left alone, as are faint tones.
     std::vector<double> ends = flat_with_peak(50.0, 0, 60.0);
     ends[23] = 60.0;
-    checked const kept_ends = check_tones(ends, {0, 23}, 24, 30.0);
+    split_levels const kept_ends = check_tones(ends, {0, 23}, 24, 30.0);
     EXPECT_EQ(kept_ends.tones[0] + kept_ends.tones[23], 120.0);
     boost::shared_ptr<spectrum_t> faint = tob_filled_with(0.0);
     faint->values[5] = 1.0;

@@ -15,17 +15,12 @@ namespace {
 
 #include "tone_reference.inc"
 
-struct located {
-    std::vector<double> broadband;
-    std::vector<double> tones;
-};
-
 // The spectrum form, checked against the array form it must agree with.
-located slope_located(std::vector<double> const& levels) {
+split_levels slope_located(std::vector<double> const& levels) {
     boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
     Calc_TonesLocSlope(tob_spectrum(levels), broadband, tones);
-    located array_form{std::vector<double>(24), std::vector<double>(24)};
+    split_levels array_form{std::vector<double>(24), std::vector<double>(24)};
     VARNO::detail::Calc_TonesLocSlopeArray(levels, array_form.broadband.data(),
                                            array_form.tones.data());
     EXPECT_EQ(array_form.broadband, broadband->values);
@@ -33,9 +28,9 @@ located slope_located(std::vector<double> const& levels) {
     return {broadband->values, tones->values};
 }
 
-located frequency_located(std::vector<double> const& levels, double step, double margin,
-                          bool array_form = false) {
-    located result{std::vector<double>(24, -1.0), std::vector<double>(24, -1.0)};
+split_levels frequency_located(std::vector<double> const& levels, double step, double margin,
+                               bool array_form = false) {
+    split_levels result{std::vector<double>(24, -1.0), std::vector<double>(24, -1.0)};
     if (array_form) {
         VARNO::detail::Calc_TonesLocFreqArray(levels, result.broadband.data(), result.tones.data(),
                                               &step, &margin);
@@ -68,7 +63,7 @@ TEST(SlopeLocator, ABandAboveTheMeanOfItsNeighboursIsATone) {
     };
     for (row const r : {row{7, 50.0 + 1e-10, false}, row{7, 50.0 + 1e-8, true},
                         row{23, 50.99, false}, row{23, 51.0, true}, row{0, 90.0, false}}) {
-        located const split = slope_located(flat_with_peak(50.0, r.band, r.peak));
+        split_levels const split = slope_located(flat_with_peak(50.0, r.band, r.peak));
         EXPECT_EQ(split.tones[r.band], r.tone ? r.peak : 0.0) << r.band << " at " << r.peak;
         EXPECT_EQ(split.broadband[r.band], r.tone ? 0.0 : r.peak) << r.band << " at " << r.peak;
     }
@@ -77,7 +72,7 @@ TEST(SlopeLocator, ABandAboveTheMeanOfItsNeighboursIsATone) {
 TEST(FrequencyLocator, BridgesFlaggedBandsAndRebuildsTheBaseline) {
     // Shaped floor with four tones; expected split from the independent reference.
     std::vector<double> const shaped(shaped_levels, shaped_levels + 24);
-    located const shaped_split = frequency_located(shaped, 2.0, 3.0);
+    split_levels const shaped_split = frequency_located(shaped, 2.0, 3.0);
     expect_levels_near(shaped_split.broadband, frequency_locator_broadband, 0.0, "broadband");
     expect_levels_near(shaped_split.tones, frequency_locator_tones, 0.0, "tones");
     EXPECT_EQ(frequency_located(shaped, 2.0, 3.0, true).tones, shaped_split.tones);
@@ -115,7 +110,7 @@ TEST(FrequencyLocator, BridgesFlaggedBandsAndRebuildsTheBaseline) {
     silent[3] = 0.001;
     EXPECT_EQ(frequency_located(silent, 2.0, 0.01).broadband, silent);
     EXPECT_EQ(frequency_located(silent, 2.0, -1.0).tones, silent);
-    located const array_form = frequency_located(silent, 2.0, -1.0, true);
+    split_levels const array_form = frequency_located(silent, 2.0, -1.0, true);
     EXPECT_EQ(array_form.broadband, silent);
     EXPECT_EQ(array_form.tones, std::vector<double>(24, 0.0));
 }

@@ -23,6 +23,12 @@ inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
     return tob_spectrum(std::vector<double>(24, level));
 }
 
+/// The two halves a separation leaves: broadband floor and tones, in dB per band.
+struct split_levels {
+    std::vector<double> broadband;
+    std::vector<double> tones;
+};
+
 /// 24 levels of `level` with `band` raised to `peak`.
 inline std::vector<double> flat_with_peak(double level, std::size_t band, double peak) {
     std::vector<double> levels(24, level);
