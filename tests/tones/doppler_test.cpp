@@ -100,10 +100,8 @@ TEST(DopplerizeTone, CorrectsAToneNearEachEdgeInThreeForms) {
         doppler_outcome const out =
             dopplerize(tone_levels, expected.floor, expected.ratio, expected.frequency,
                        expected.exact_energy, expected.keep_broadband);
-        std::string const what = std::to_string(expected.frequency) + " Hz over " +
-                                 std::to_string(expected.floor) + " dB, exact " +
-                                 std::to_string(expected.exact_energy) + ", keep " +
-                                 std::to_string(expected.keep_broadband);
+        std::string const what = "case " + std::to_string(&expected - doppler_cases) + ", " +
+                                 std::to_string(expected.frequency) + " Hz";
         EXPECT_NEAR(out.level, expected.level, 1e-12) << what;
         EXPECT_EQ(out.level_copy, out.level) << what;
         EXPECT_DOUBLE_EQ(out.shifted_frequency, expected.ratio * expected.frequency) << what;
