@@ -1,66 +1,35 @@
 #include <calc-common/spectra.hpp>
 
+#include "narrowband_fixtures.hpp"
+
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-namespace {
-
-boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->fill_with(level);
-    return spectrum;
-}
-
-std::string message_of_log_add(boost::shared_ptr<spectrum_t> a, boost::shared_ptr<spectrum_t> b,
-                               boost::shared_ptr<spectrum_t> result) {
-    try {
-        spectrum_t::log_add(a, b, result);
-    } catch (varno_calc_error const& error) {
-        return error.what();
-    }
-    return "";
-}
-
-} // namespace
-
-TEST(Spectrum, ConstructionIsSilentOnTheGivenGrid) {
-    boost::shared_ptr<spectrum_t> tob = spectrum_t::create_tob();
-    EXPECT_EQ(tob->frequency_range, tob_frequency_range_ptr);
-    EXPECT_EQ(tob->values, std::vector<double>(24, 0.0));
-    EXPECT_FALSE(tob->owns_frequency_range);
-    EXPECT_TRUE(tob->tones.empty());
-
-    spectrum_t nb(frequency_range_t::create_nb(0, 100, 10));
-    EXPECT_EQ(nb.values.size(), 11u);
-    spectrum_t empty;
-    EXPECT_FALSE(empty.frequency_range);
-    EXPECT_TRUE(empty.values.empty());
-}
-
 TEST(Spectrum, LogAddSumsEnergiesWithTheOneDecibelCut) {
+    struct row {
+        double a;
+        double b;
+        double sum;
+    };
+    row const rows[] = {{50.0, 50.0, 50.0 + 10.0 * std::log10(2.0)},
+                        {1.0, 0.0, 0.0},
+                        {1.0, 1.0, 0.0},
+                        {1.5, 1.0, 1.5},
+                        {-20.0, 60.0, 60.0},
+                        {std::nan(""), 30.0, 30.0}};
     boost::shared_ptr<spectrum_t> a = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> b = spectrum_t::create_tob();
-    double const a_levels[] = {50.0, 1.0, 1.0, 1.5, -20.0, 0.0, std::nan("")};
-    double const b_levels[] = {50.0, 0.0, 1.0, 1.0, 60.0, 40.0, 30.0};
-    double const sums[] = {50.0 + 10.0 * std::log10(2.0), 0.0, 0.0, 1.5, 60.0, 40.0, 30.0};
-    for (std::size_t i = 0; i < 7; ++i) {
-        a->at(i) = a_levels[i];
-        (*b)(i) = b_levels[i];
+    for (std::size_t i = 0; i < 6; ++i) {
+        a->at(i) = rows[i].a;
+        (*b)(i) = rows[i].b;
     }
-    boost::shared_ptr<spectrum_t> result = spectrum_t::create_tob();
-    spectrum_t::log_add(a, b, result);
-    for (std::size_t i = 0; i < 7; ++i) {
-        EXPECT_NEAR(result->values[i], sums[i], 1e-12) << i;
+    spectrum_t::log_add(a, b, a); // writing into an operand is allowed
+    for (std::size_t i = 0; i < 6; ++i) {
+        EXPECT_NEAR(a->values[i], rows[i].sum, 1e-12) << rows[i].a << " + " << rows[i].b;
     }
-    EXPECT_NEAR(result->values[0], 53.0103, 1e-4);
-    EXPECT_EQ(result->values[23], 0.0);
-
-    // Writing into an operand gives the same as a separate result.
-    spectrum_t::log_add(a, b, a);
-    EXPECT_EQ(a->values[0], result->values[0]);
-    EXPECT_EQ(a->values[4], result->values[4]);
+    EXPECT_NEAR(a->values[0], 53.0103, 1e-4);
 }
 
 TEST(Spectrum, LogAddNeedsTheVerySameGridObject) {
@@ -71,21 +40,22 @@ TEST(Spectrum, LogAddNeedsTheVerySameGridObject) {
     char const* expected = "An error occurred in function spectrum_t::log_add";
     EXPECT_EQ(message_of_log_add(a, on_copy, a), expected);
     EXPECT_EQ(message_of_log_add(a, a, on_copy), expected);
-    EXPECT_EQ(a->values[0], 40.0) << "nothing is written before the check";
-    EXPECT_EQ(on_copy->values[0], 30.0);
+    EXPECT_EQ(on_copy->values[0], 30.0) << "nothing is written before the check";
 
-    // A clone keeps the grid object and so adds to its source.
+    // A clone keeps the grid object and so adds to its source; a private copy no longer does.
     EXPECT_EQ(message_of_log_add(a, a->clone(), a), "");
-    // A spectrum that took ownership of a private copy no longer does.
     boost::shared_ptr<spectrum_t> owner = tob_filled_with(20.0);
     owner->give_frequency_range_ownership();
+    boost::shared_ptr<frequency_range_t> const private_range = owner->frequency_range;
     EXPECT_EQ(message_of_log_add(a, owner, a), expected);
+    owner->give_frequency_range_ownership();
+    EXPECT_EQ(owner->frequency_range, private_range) << "ownership is taken once";
 }
 
 TEST(Spectrum, ReserveReusesButNeverRebinds) {
-    EXPECT_THROW(spectrum_t::reserve(nullptr, tob_frequency_range_ptr), varno_calc_error);
     try {
         spectrum_t::reserve_tob(nullptr);
+        ADD_FAILURE() << "no error";
     } catch (varno_calc_error const& error) {
         EXPECT_STREQ(error.what(), "An error occurred in function spectrum_t::reserve");
     }
@@ -94,7 +64,6 @@ TEST(Spectrum, ReserveReusesButNeverRebinds) {
     spectrum_t::reserve_tob(&slot);
     ASSERT_TRUE(slot);
     EXPECT_EQ(slot->frequency_range, tob_frequency_range_ptr);
-
     spectrum_t* const first = slot.get();
     slot->fill_with(70.0);
     slot->tones.push_back(tone_id_t::create_bpf(3, 1.0, 100.0, 70.0));
@@ -104,17 +73,13 @@ TEST(Spectrum, ReserveReusesButNeverRebinds) {
     EXPECT_TRUE(slot->tones.empty());
 
     slot->fill_with(70.0);
-    boost::shared_ptr<frequency_range_t> other = frequency_range_t::create_nb(0, 100, 1);
-    spectrum_t::reserve(&slot, other);
+    spectrum_t::reserve(&slot, frequency_range_t::create_nb(0, 100, 1));
     EXPECT_EQ(slot->frequency_range, tob_frequency_range_ptr);
     EXPECT_EQ(slot->values[5], 70.0);
 }
 
-TEST(Spectrum, ElementwiseOperations) {
-    boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(40.0);
-    spectrum->multiply(0.5);
-    EXPECT_EQ(spectrum->values[12], 20.0);
-
+TEST(Spectrum, FloorAndFrequencyAt) {
+    boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(20.0);
     spectrum->values[0] = -3.0;
     spectrum->values[1] = 0.0005;
     spectrum->values[2] = 0.001;
@@ -124,66 +89,36 @@ TEST(Spectrum, ElementwiseOperations) {
     EXPECT_EQ(spectrum->values[1], 0.0);
     EXPECT_EQ(spectrum->values[2], 0.001);
     EXPECT_TRUE(std::isnan(spectrum->values[3]));
-    EXPECT_EQ(spectrum->values[4], 20.0);
 
-    boost::shared_ptr<frequency_range_t> own = frequency_range_t::create_dt(0);
-    spectrum_t listed(own);
-    listed.add_value(125.0, 60.0);
-    listed.add_value(250.0, 65.0);
-    EXPECT_EQ(own->count, 2u);
-    EXPECT_EQ(own->frequencies[1], 250.0);
-    EXPECT_EQ(listed.values, (std::vector<double>{60.0, 65.0}));
-}
-
-TEST(Spectrum, FrequencyAtPrefersTheBandsOwnTone) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
     spectrum->tones.push_back(tone_id_t::create_ni(2, 1, 77.0, 50.0));
     spectrum->tones.push_back(tone_id_t::create_bpf(5, 1.0, 171.5, 60.0));
     spectrum->tones.push_back(tone_id_t::create_eo(5, 4, 165.0, 55.0));
     EXPECT_EQ(spectrum->frequency_at(5), 171.5) << "the first tone of the band answers";
     EXPECT_EQ(spectrum->frequency_at(2), 80.0) << "an ni tone never answers";
     EXPECT_EQ(spectrum->frequency_at(6), 200.0);
-    // The index is matched on its low 32 bits.
-    EXPECT_EQ(spectrum->frequency_at((std::size_t(1) << 32) + 5), 171.5);
+    EXPECT_EQ(spectrum->frequency_at((std::size_t(1) << 32) + 5), 171.5) << "low 32 bits";
 }
 
-TEST(Spectrum, ClearCloneCopyAndOwnership) {
+TEST(Spectrum, ClearCloneAndCopy) {
     boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(45.0);
     spectrum->tones.push_back(tone_id_t::create_eo(1, 2, 64.0, 45.0));
 
     boost::shared_ptr<spectrum_t> target =
         boost::make_shared<spectrum_t>(frequency_range_t::create_nb(0, 10, 1));
     EXPECT_FALSE(spectrum->copy_to(target)) << "copy_to reports false although it copied";
-    EXPECT_EQ(target->values.size(), 24u);
-    EXPECT_EQ(target->tones.size(), 1u);
+    EXPECT_EQ(target->values, spectrum->values);
     EXPECT_NE(target->frequency_range, tob_frequency_range_ptr);
 
-    spectrum->give_frequency_range_ownership();
-    boost::shared_ptr<frequency_range_t> const private_range = spectrum->frequency_range;
-    EXPECT_NE(private_range, tob_frequency_range_ptr);
-    EXPECT_TRUE(private_range->equals(tob_frequency_range_ptr));
-    spectrum->give_frequency_range_ownership();
-    EXPECT_EQ(spectrum->frequency_range, private_range) << "ownership is taken once";
-
     boost::shared_ptr<spectrum_t> copy = spectrum->clone();
-    EXPECT_EQ(copy->frequency_range, private_range);
-    EXPECT_FALSE(copy->owns_frequency_range);
-    EXPECT_EQ(copy->values, spectrum->values);
-    ASSERT_EQ(copy->tones.size(), 1u);
-    EXPECT_EQ(copy->tones[0].frequency, 64.0);
-
     spectrum->clear();
     EXPECT_EQ(spectrum->values, std::vector<double>(24, 0.0));
     EXPECT_TRUE(spectrum->tones.empty());
     EXPECT_EQ(copy->values[0], 45.0);
+    EXPECT_EQ(copy->tones.size(), 1u);
 
     // On a zero-count range clear does nothing, so the tones stay.
     spectrum_t on_empty(frequency_range_t::create_dt(0));
     on_empty.tones.push_back(tone_id_t::create_bpf(0, 1.0, 10.0, 10.0));
     on_empty.clear();
     EXPECT_EQ(on_empty.tones.size(), 1u);
-    spectrum_t no_range;
-    no_range.values.push_back(3.0);
-    no_range.clear();
-    EXPECT_EQ(no_range.values[0], 3.0);
 }

@@ -9,57 +9,32 @@
 
 #include <cmath>
 
-namespace {
-
-// A level whose energy is negligible beside any other in these tests (the narrowband path has
-// no cut, so a silent 0.0 dB line would still add an energy of 1).
-constexpr double inaudible = -400.0;
-
-// Line k of a narrowband spectrum at `level`.
-void set_line(spectrum_t& spectrum, double frequency, double level) {
-    frequency_range_t const& range = *spectrum.frequency_range;
-    spectrum.at(static_cast<std::size_t>(std::lround((frequency - range.f_start) / range.df))) =
-        level;
-}
-
-} // namespace
-
 TEST(TobConversion, RefusesWrongGridsAndUnknownMethods) {
     boost::shared_ptr<spectrum_t> input = narrowband(0.0, 1000.0, 10.0, 40.0);
-    boost::shared_ptr<spectrum_t> on_copy =
-        boost::make_shared<spectrum_t>(tob_frequency_range_ptr->clone());
-    on_copy->fill_with(7.0);
+    boost::shared_ptr<spectrum_t> on_copy = tob_filled_with(7.0);
+    on_copy->give_frequency_range_ownership();
     EXPECT_EQ(convert_spectrum_to_tob(input, on_copy, nbtob_line_band, 0), 1);
     EXPECT_EQ(on_copy->values, std::vector<double>(24, 7.0)) << "untouched";
 
-    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    boost::shared_ptr<spectrum_t> output = tob_filled_with(7.0);
     EXPECT_EQ(convert_spectrum_to_tob(spectrum_t::create_tob(), output, nbtob_line_band, 0), 1);
 
-    output->fill_with(7.0);
     EXPECT_EQ(convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(5), 0),
               1);
     EXPECT_EQ(output->values, std::vector<double>(24, 0.0)) << "zeroed";
     // The method is met at the first level summed: with no line it is never refused.
-    boost::shared_ptr<spectrum_t> no_line = narrowband(0.0, -0.5, 1.0, 0.0);
-    ASSERT_EQ(no_line->frequency_range->count, 0u);
-    EXPECT_EQ(convert_spectrum_to_tob(no_line, output, static_cast<nbtob_conversion_method>(5), 0),
+    EXPECT_EQ(convert_spectrum_to_tob(narrowband(0.0, -0.5, 1.0, 0.0), output,
+                                      static_cast<nbtob_conversion_method>(5), 0),
               0);
 
     // A list of lines ignores the method altogether.
-    boost::shared_ptr<spectrum_t> lines =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(1));
-    lines->frequency_range->frequencies[0] = 1000.0;
-    lines->at(0) = 60.0;
-    EXPECT_EQ(convert_spectrum_to_tob(lines, output, static_cast<nbtob_conversion_method>(5), 9),
+    EXPECT_EQ(convert_spectrum_to_tob(listed_lines({1000.0}, {60.0}), output,
+                                      static_cast<nbtob_conversion_method>(5), 9),
               0);
     EXPECT_NEAR(output->at(13), 60.0, 1e-12);
 
-    boost::shared_ptr<noise_field_column_range_t> columns =
-        boost::make_shared<noise_field_column_range_t>(2, nullptr, nullptr, nullptr);
-    boost::shared_ptr<noise_field_t> field = noise_field_t::create_tob(columns);
-    EXPECT_EQ(
-        convert_noise_field_to_tob(field, noise_field_t::create_tob(columns), nbtob_line_band, 0),
-        1);
+    boost::shared_ptr<noise_field_t> field = noise_field_t::create_tob(columns_at({0.0, 90.0}));
+    EXPECT_EQ(convert_noise_field_to_tob(field, field->clone(), nbtob_line_band, 0), 1);
 }
 
 TEST(TobConversion, WholeLinesGoToTheBandThatHoldsThem) {
@@ -72,9 +47,8 @@ TEST(TobConversion, WholeLinesGoToTheBandThatHoldsThem) {
     for (std::size_t band = 0; band < 5; ++band) {
         EXPECT_NEAR(output->at(band), expected[band], 1e-12) << band;
     }
-    for (std::size_t band = 5; band < 24; ++band) {
-        EXPECT_EQ(output->at(band), 0.0) << "no line reaches band " << band;
-    }
+    EXPECT_EQ(std::vector<double>(output->values.begin() + 5, output->values.end()),
+              std::vector<double>(19, 0.0));
 
     // A line exactly on the 63/80 Hz edge belongs to the band above it.
     boost::shared_ptr<spectrum_t> on_edge = narrowband(tob_fl[18], tob_fl[18] + 20.0, 10.0, 20.0);
@@ -99,8 +73,6 @@ TEST(TobConversion, LineWidthsAreSharedByTheirOverlapWithBands) {
     // By hand for the 50 Hz band: 40 Hz gives (40 - 44.668 + 5)/10 = 0.0332, 50 Hz all of
     // itself, 60 Hz (56.234 - 60 + 5)/10 = 0.1234.
     EXPECT_NEAR(output->at(0), 10.631746756198845, 1e-12);
-    EXPECT_NEAR(output->at(1), 11.631746756198849, 1e-12);
-    EXPECT_NEAR(output->at(3), 13.63174675619877, 1e-12);
     for (std::size_t band = 0; band < 4; ++band) {
         EXPECT_NEAR(output->at(band), 10.0 + 10.0 * std::log10(band_width(band) / 10.0), 1e-12);
     }
@@ -117,14 +89,11 @@ TEST(TobConversion, LineWidthsAreSharedByTheirOverlapWithBands) {
 }
 
 TEST(TobConversion, FilteredLinesReachEveryBandThroughTheCurve) {
-    double const q = VARNO::detail::tob_filter_q();
-    EXPECT_NEAR(q, 4.522294399688317, 1e-14);
-    EXPECT_EQ(VARNO::detail::tob_filter_q(), q);
+    EXPECT_NEAR(VARNO::detail::tob_filter_q(), 4.522294399688317, 1e-14);
 
     // One 60 dB line at 1 kHz: its own band passes it whole, and the 800 Hz and 1.25 kHz bands
     // take it 18.575 dB down, 10*log10(1 + (Q*(0.8 - 1.25))^6).
-    boost::shared_ptr<spectrum_t> input = narrowband(0.0, 2000.0, 10.0, inaudible);
-    set_line(*input, 1000.0, 60.0);
+    boost::shared_ptr<spectrum_t> input = single_line(1000.0, 60.0, 10.0, 2000.0);
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
     ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_butterworth, 0), 0);
     EXPECT_NEAR(output->at(13), 60.0, 1e-9);
@@ -145,28 +114,22 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
     // lower edge (891.25 Hz * 1.04) and 1100 Hz in that of its upper edge (1122 Hz / 1.04);
     // 45 Hz shares 0.415 with a band below the grid, which is lost. Lines below 1 Hz and those
     // of bands off the grid are dropped, and a silent line alone leaves its band silent.
-    double const frequencies[] = {1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0};
-    double const levels[] = {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0};
     boost::shared_ptr<spectrum_t> input =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(7));
-    input->frequency_range->frequencies.assign(frequencies, frequencies + 7);
-    input->values.assign(levels, levels + 7);
+        listed_lines({1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0},
+                     {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0});
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
     ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 3), 0);
     EXPECT_NEAR(output->at(0), 57.67023862295765, 1e-12);
     EXPECT_NEAR(output->at(12), 55.85111212059501, 1e-12);
     EXPECT_NEAR(output->at(13), 63.757043971866736, 1e-12);
     EXPECT_NEAR(output->at(14), 53.80368069120956, 1e-12);
-    for (std::size_t band : {1u, 11u, 15u, 16u, 23u}) {
-        EXPECT_EQ(output->at(band), 0.0) << band;
-    }
+    EXPECT_EQ(output->at(1) + output->at(11) + output->at(15) + output->at(16) + output->at(23),
+              0.0);
 
     // The one cut is on the band total: a band energy of 0.5 is silence, but two 0.9 dB lines
     // (1000 and 1010 Hz) add up to 10*log10(2 * 10^0.09) = 3.9103 dB.
     boost::shared_ptr<spectrum_t> faint =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(2));
-    faint->frequency_range->frequencies = {1000.0, 1010.0};
-    faint->values = {10.0 * std::log10(0.25), 10.0 * std::log10(0.25)};
+        listed_lines({1000.0, 1010.0}, {10.0 * std::log10(0.25), 10.0 * std::log10(0.25)});
     ASSERT_EQ(convert_spectrum_to_tob(faint, output, nbtob_line_band, 0), 0);
     EXPECT_EQ(output->at(13), 0.0);
     faint->values = {0.9, 0.9};
@@ -214,26 +177,9 @@ TEST(TobConversion, FieldColumnsConvertAsSeparateSpectra) {
     }
 }
 
-TEST(TobConversion, WhiteNoiseFillsEachBandByItsWidth) {
-    // 40 dB per 1 Hz line from 1 Hz to 20 kHz: every band reads 40 + 10*log10(width/df).
-    boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 1.0, 40.0);
-    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
-    for (int method = 0; method < 3; ++method) {
-        ASSERT_EQ(
-            convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(method), 0),
-            0);
-        for (std::size_t band = 0; band < 24; ++band) {
-            EXPECT_NEAR(output->at(band), 40.0 + 10.0 * std::log10(band_width(band)), 0.5)
-                << "method " << method << " band " << band;
-        }
-    }
-}
-
 TEST(TobConversion, SummationAllocatesNothing) {
     boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 5.0, 40.0);
-    boost::shared_ptr<spectrum_t> lines =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_dt(3));
-    lines->frequency_range->frequencies = {100.0, 1000.0, 5000.0};
+    boost::shared_ptr<spectrum_t> lines = listed_lines({100.0, 1000.0, 5000.0}, {50.0, 60.0, 70.0});
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
     test_support::AllocationCounter counter;
     for (int method = 0; method < 3; ++method) {

@@ -18,46 +18,38 @@ namespace {
 
 double const not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-struct checked {
-    std::vector<double> broadband;
-    std::vector<double> tones;
-};
-
 // Runs the tone check on a spectrum whose tones are the bands in `tone_bands`, with the floor
 // filled as the separation leaves it.
-checked check_tones(std::vector<double> const& levels, std::vector<std::size_t> tone_bands, int k,
-                    double margin) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values = levels;
-    boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
-    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
-    broadband->values = levels;
+split_levels check_tones(std::vector<double> const& levels, std::vector<std::size_t> tone_bands,
+                         int k, double margin) {
+    boost::shared_ptr<spectrum_t> broadband = tob_spectrum(levels);
+    boost::shared_ptr<spectrum_t> tones = tob_filled_with(0.0);
     for (std::size_t band : tone_bands) {
         tones->values[band] = levels[band];
         broadband->values[band] = 0.0;
     }
     Calc_InterpSpec(broadband, 0.0);
-    Calc_CheckTones(spectrum, k, margin, 0.0, broadband, tones);
+    Calc_CheckTones(tob_spectrum(levels), k, margin, 0.0, broadband, tones);
     return {broadband->values, tones->values};
 }
 
-struct separated {
+struct separated : split_levels {
     int k;
-    std::vector<double> broadband;
-    std::vector<double> tones;
 };
 
 separated bb_tones(std::vector<double> const& levels, double cut_frequency, int method) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values = levels;
     boost::shared_ptr<spectrum_t> broadband = tob_filled_with(-3.0);
     boost::shared_ptr<spectrum_t> tones = tob_filled_with(-3.0);
     tones->tones.push_back(tone_id_t::create_eo(4, 2, 100.0, 60.0));
-    int const k = Calc_BBTones(spectrum, 1.5, cut_frequency, not_a_number,
+    int const k = Calc_BBTones(tob_spectrum(levels), 1.5, cut_frequency, not_a_number,
                                static_cast<tone_sep_method_t>(method), 2.0, 3.0, broadband, tones);
     EXPECT_EQ(tones->tones.size(), 1u) << "the tone list is left alone";
     EXPECT_TRUE(broadband->tones.empty());
-    return {k, broadband->values, tones->values};
+    separated split;
+    split.broadband = broadband->values;
+    split.tones = tones->values;
+    split.k = k;
+    return split;
 }
 
 // Above the cut index the broadband floor and the tones add up to the input by energy.
@@ -77,7 +69,7 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     levels[11] = 56.0;
     // Pass 1 gives band 10 back (4 dB above the 50 dB floor); the floor under band 11 then
     // rises to 52 dB and pass 2 gives band 11 back too (4 dB again).
-    checked const pair = check_tones(levels, {10, 11}, 0, 4.5);
+    split_levels const pair = check_tones(levels, {10, 11}, 0, 4.5);
     EXPECT_EQ(pair.tones, std::vector<double>(24, 0.0));
     EXPECT_EQ(pair.broadband, levels);
 
@@ -85,28 +77,23 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     // floor is interpolated beneath it.
     std::vector<double> const peak = flat_with_peak(50.0, 10, 53.0);
     EXPECT_EQ(check_tones(peak, {10}, 0, 3.0).tones[10], 0.0);
-    checked const kept = check_tones(peak, {10}, 0, 2.9);
+    split_levels const kept = check_tones(peak, {10}, 0, 2.9);
     EXPECT_EQ(kept.tones[10], 53.0);
     EXPECT_EQ(kept.broadband[10], 50.0);
 
     // Below the cut index the test is against the neighbours in the input.
     EXPECT_EQ(check_tones(peak, {10}, 12, 3.0).tones[10], 0.0);
     EXPECT_EQ(check_tones(peak, {10}, 12, 2.0).tones[10], 53.0);
-}
 
-TEST(CheckTones, FaintTonesAndTheEndBandsBelowTheCutAreLeftAlone) {
-    std::vector<double> levels(24, 50.0);
-    levels[0] = levels[23] = 60.0;
-    checked const ends = check_tones(levels, {0, 23}, 24, 30.0);
-    EXPECT_EQ(ends.tones[0], 60.0);
-    EXPECT_EQ(ends.tones[23], 60.0);
-
-    boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(50.0);
-    boost::shared_ptr<spectrum_t> broadband = tob_filled_with(50.0);
-    boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
-    tones->values[5] = 1.0;
-    Calc_CheckTones(spectrum, 0, 3.0, 0.0, broadband, tones);
-    EXPECT_EQ(tones->values[5], 1.0);
+    // The end bands below the cut are left alone, as are faint tones.
+    std::vector<double> ends = flat_with_peak(50.0, 0, 60.0);
+    ends[23] = 60.0;
+    split_levels const kept_ends = check_tones(ends, {0, 23}, 24, 30.0);
+    EXPECT_EQ(kept_ends.tones[0] + kept_ends.tones[23], 120.0);
+    boost::shared_ptr<spectrum_t> faint = tob_filled_with(0.0);
+    faint->values[5] = 1.0;
+    Calc_CheckTones(tob_filled_with(50.0), 0, 3.0, 0.0, tob_filled_with(50.0), faint);
+    EXPECT_EQ(faint->values[5], 1.0);
 }
 
 TEST(BBTones, WorkedExamplesWithBothLocators) {
@@ -121,12 +108,9 @@ TEST(BBTones, WorkedExamplesWithBothLocators) {
     }
     // Any value but 1 runs the slope locator.
     EXPECT_EQ(bb_tones(levels, 250.0, 7).tones, bb_tones(levels, 250.0, 0).tones);
-}
 
-TEST(BBTones, NoToneAtOrBelowTheCutIndex) {
-    std::vector<double> const levels(shaped_levels, shaped_levels + 24);
-    // 2 kHz is grid band 16, so the cut index is 14: the tones at bands 8 and 12 stand in the
-    // broadband with their full level.
+    // No tone at or below the cut index. 2 kHz is grid band 16, so the cut index is 14: the tones
+    // at bands 8 and 12 stand in the broadband with their full level.
     separated const high_cut = bb_tones(levels, 2000.0, 0);
     EXPECT_EQ(high_cut.k, 14);
     for (std::size_t i = 0; i <= 14; ++i) {
@@ -146,8 +130,8 @@ TEST(BBTones, NoToneAtOrBelowTheCutIndex) {
 }
 
 TEST(ToneSeparation, AllocatesNothingAfterTheFirstCallOnAGrid) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values.assign(shaped_levels, shaped_levels + 24);
+    boost::shared_ptr<spectrum_t> spectrum =
+        tob_spectrum(std::vector<double>(shaped_levels, shaped_levels + 24));
     boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> unshifted = spectrum_t::create_tob();

@@ -20,10 +20,8 @@ struct harmonic_split {
 };
 
 void separate(std::vector<double> const& levels, double fundamental, harmonic_split& split) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values = levels;
-    Calc_EnscaBBTones(spectrum, 1.0, 125.0, fundamental, 0.0, tone_sep_slope_differences, 2.0, 3.0,
-                      split.broadband, split.tones);
+    Calc_EnscaBBTones(tob_spectrum(levels), 1.0, 125.0, fundamental, 0.0,
+                      tone_sep_slope_differences, 2.0, 3.0, split.broadband, split.tones);
 }
 
 } // namespace
@@ -61,8 +59,8 @@ TEST(EnscaBBTones, OnlyHarmonicsMoreThanThreeDecibelsAboveTheFloorAreTones) {
     separate(levels, 1000.0, split);
     EXPECT_EQ(split.tones->values, std::vector<double>(24, 0.0));
     EXPECT_EQ(split.broadband->values, levels);
-    ASSERT_EQ(split.tones->tones.size(), 5u);
-    EXPECT_EQ(split.tones->tones[0].level, 0.0); // listed although silent
+    ASSERT_EQ(split.tones->tones.size(), 5u) << "listed although silent";
+    EXPECT_EQ(split.tones->tones[0].level, 0.0);
 
     // Half a decibel more: the tone holds the excess over the 50 dB floor, which stays, and the
     // two add up to the input.
@@ -71,29 +69,24 @@ TEST(EnscaBBTones, OnlyHarmonicsMoreThanThreeDecibelsAboveTheFloorAreTones) {
     double const excess = 10.0 * std::log10(energy(53.5) - energy(50.0));
     EXPECT_NEAR(stronger.tones->values[13], excess, 1e-12);
     EXPECT_EQ(stronger.broadband->values[13], 50.0);
-    EXPECT_NEAR(energy(excess) + energy(50.0), energy(53.5), 1e-6);
 }
 
 TEST(EnscaBBTones, NothingIsReadOrWrittenOffTheGrid) {
-    // 20 Hz: harmonics 1 and 2 lie below the grid and are skipped; 3, 4 and 5 are listed.
-    harmonic_split low;
-    separate(std::vector<double>(24, 50.0), 20.0, low);
-    ASSERT_EQ(low.tones->tones.size(), 3u);
-    EXPECT_EQ(low.tones->tones[0].bpf_harmonic, 3.0);
-    EXPECT_EQ(low.tones->tones[0].band_index, 1);
-    EXPECT_EQ(low.tones->values.size(), 24u);
-
-    // 44 Hz lies below the grid, in the overlap with band 0: it is not listed, harmonics 2 to 5
-    // are.
-    harmonic_split overlap;
-    separate(std::vector<double>(24, 50.0), 44.0, overlap);
-    ASSERT_EQ(overlap.tones->tones.size(), 4u);
-    EXPECT_EQ(overlap.tones->tones[0].bpf_harmonic, 2.0);
-
-    // 5.6 kHz: harmonics 3 to 5 lie above the grid and are not listed.
-    harmonic_split high;
-    separate(std::vector<double>(24, 50.0), 5600.0, high);
-    EXPECT_EQ(high.tones->tones.size(), 2u);
+    // At 20 Hz harmonics 1 and 2 lie below the grid and are skipped. 44 Hz lies below the grid,
+    // in the overlap with band 0, and is not listed. At 5.6 kHz harmonics 3 to 5 lie above it.
+    struct row {
+        double fundamental;
+        std::size_t listed;
+        double first_harmonic;
+        int first_band;
+    };
+    for (row const r : {row{20.0, 3, 3.0, 1}, row{44.0, 4, 2.0, 2}, row{5600.0, 2, 1.0, 20}}) {
+        harmonic_split split;
+        separate(std::vector<double>(24, 50.0), r.fundamental, split);
+        ASSERT_EQ(split.tones->tones.size(), r.listed) << r.fundamental;
+        EXPECT_EQ(split.tones->tones[0].bpf_harmonic, r.first_harmonic) << r.fundamental;
+        EXPECT_EQ(split.tones->tones[0].band_index, r.first_band) << r.fundamental;
+    }
 
     // A fundamental with no band yields no tone: all goes to broadband, and the tone list,
     // which holds tones below, at the foot of and above the grid, is unchanged. None of them

@@ -12,17 +12,22 @@
 
 namespace tone_test {
 
-inline boost::shared_ptr<spectrum_t> tob_spectrum(double const (&levels)[24]) {
+/// A third-octave spectrum holding `levels`.
+inline boost::shared_ptr<spectrum_t> tob_spectrum(std::vector<double> const& levels) {
     boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values.assign(levels, levels + 24);
+    spectrum->values = levels;
     return spectrum;
 }
 
 inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->fill_with(level);
-    return spectrum;
+    return tob_spectrum(std::vector<double>(24, level));
 }
+
+/// The two halves a separation leaves: broadband floor and tones, in dB per band.
+struct split_levels {
+    std::vector<double> broadband;
+    std::vector<double> tones;
+};
 
 /// 24 levels of `level` with `band` raised to `peak`.
 inline std::vector<double> flat_with_peak(double level, std::size_t band, double peak) {
