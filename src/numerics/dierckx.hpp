@@ -121,6 +121,13 @@ inline double clamp_to_span(double x, double tb, double te) {
     return x;
 }
 
+/// Writes to y the values at m ascending abscissas x, each taken at the nearest end of the span
+/// [t[k], t[n-k-1]] when outside it, of the spline of `degree` (at most k) on the knots of a
+/// degree-k spline whose coefficients for knot interval l start at coefficients[l - k]. splev
+/// evaluates with degree k, splder with the lower degree of a derivative.
+void evaluate_ascending(double const* t, int n, int k, int degree, double const* coefficients,
+                        double const* x, double* y, int m);
+
 /// ier 0 when the knots t[0..n-1] suit a spline of degree k through the m abscissas x: ordered
 /// boundary knots, strictly increasing interior knots, data inside the span, and the
 /// Schoenberg-Whitney conditions. ier 10 otherwise.

@@ -34,35 +34,22 @@ void splder(double const* t, int n, double const* c, int k, int nu, double const
         return;
     }
     ier = 0;
-    int const k1 = k + 1;
-    int const nk1 = n - k1;
-    double const tb = t[k];
-    double const te = t[nk1];
+    int const nk1 = n - k - 1;
     for (int i = 0; i < nk1; ++i) {
         wrk[i] = c[i];
     }
     differentiate_coefficients(t, nk1, k, nu, wrk);
     int const kk = k - nu;
-    int l = k;
     if (kk == 0) {
         // The k-th derivative is constant on each knot interval.
+        int l = k;
         for (int i = 0; i < m; ++i) {
             advance_to_interval(t, nk1, x[i], l);
             y[i] = wrk[l - k];
         }
         return;
     }
-    double h[6];
-    for (int i = 0; i < m; ++i) {
-        double const arg = clamp_to_span(x[i], tb, te);
-        advance_to_interval(t, nk1, arg, l);
-        fpbspl(t, n, kk, arg, l, h);
-        double sp = 0.0;
-        for (int j = 0; j <= kk; ++j) {
-            sp = sp + wrk[l - k + j] * h[j];
-        }
-        y[i] = sp;
-    }
+    evaluate_ascending(t, n, k, kk, wrk, x, y, m);
 }
 
 } // namespace detail
