@@ -1,10 +1,34 @@
 // A user of the installed package: two spectra added by energy, the library's exception caught
-// by its type when the grids differ, and a small scenario built and stepped through directions.
+// by its type when the grids differ, a small scenario built and stepped through directions, and
+// one record written to the shared log.
 #include <calc-common/calc-common.hpp>
 
 #include <boost/make_shared.hpp>
 
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+
+// Logs one warning into a fresh folder and looks for its line in the log file there.
+static bool log_record_reaches_file() {
+    namespace fs = std::filesystem;
+    fs::path const dir = fs::temp_directory_path() /
+                         ("varno-consumer-log-" + std::to_string(std::random_device{}()));
+    VARNO::LogFileWriter::init(true, VARNO::LogFileWriter::notification, dir.string(), 1.0);
+    VARNO::LogFileWriter::AddToLogFile(VARNO::LogFileWriter::warning, "consumer was here");
+    bool found = false;
+    for (auto const& entry : fs::directory_iterator(dir)) {
+        std::ifstream file(entry.path());
+        for (std::string line; std::getline(file, line);) {
+            found = found || line.find(" :  <warning>  consumer was here") != std::string::npos;
+        }
+    }
+    fs::remove_all(dir);
+    std::printf("log record %s\n", found ? "found in the log file" : "missing");
+    return found;
+}
 
 namespace {
 
@@ -32,7 +56,7 @@ bool build_scenario() {
 } // namespace
 
 int main() {
-    if (!build_scenario()) {
+    if (!build_scenario() || !log_record_reaches_file()) {
         return 1;
     }
     boost::shared_ptr<spectrum_t> a = spectrum_t::create_tob();
