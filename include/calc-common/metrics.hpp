@@ -21,6 +21,8 @@
 #include <cstddef>
 #include <vector>
 
+struct integrated_noise_indicators_t; // <calc-common/results.hpp>
+
 // ---- Overall and A-weighted levels ----------------------------------------------------------
 
 /// Overall sound pressure level (OASPL) in dB: the energy sum of all bands of the spectrum, on
@@ -204,5 +206,27 @@ VARNO_CALC_COMMON_EXPORT double Calc_TotalTimeAbove(std::vector<noise_event_t> c
 /// same sum over night events) - 88, day 07:00-22:00 and night 22:00-07:00. 0.0 without events.
 VARNO_CALC_COMMON_EXPORT double
 Calc_NoiseExposureForecast(std::vector<noise_event_t> const& events);
+
+// ---- Filling the integrated indicators of a result ------------------------------------------
+
+/// Fills `oaspl_max`, `dba_max`, `pnl_max`, `pnltm`, `epnl` and `sel` of `indicators` from
+/// spectra at a uniform step in seconds (as Calc_TimeHistoryMetrics; `pnltm` without the
+/// band-sharing adjustment, which `epnl` includes). When `angles` holds one directivity angle in
+/// degrees per spectrum, `psi_oaspl_max`, `psi_dba_max`, `psi_pnl_max` and `psi_pnltm` get the
+/// angle at each maximum; when it is empty they are left as they are.
+VARNO_CALC_COMMON_EXPORT void
+Calc_FillIndicators(std::vector<boost::shared_ptr<spectrum_t>> const& history, double time_step,
+                    boost::shared_ptr<integrated_noise_indicators_t> indicators,
+                    std::vector<double> const& angles = std::vector<double>());
+
+/// Fills the cumulative indicators of `indicators` from a day of events: `leq24h`, `leqdt`
+/// (07:00-22:00), `leqnt` (22:00-07:00), `dnl`, `cnel`, `na` (LAmax above `threshold` dB(A)),
+/// `ta` (s, the events' `time_above`) and `nef`; and the exposure averages `avg_oaspl_max`,
+/// `avg_dba_max`, `avg_pnl_max`, `avg_pnltm`, `avg_epnl` and `avg_sel`, each the energy mean of
+/// the events' levels (0.0 without events). `nni`, `tne`, `ecpn`, the `wecpn*` fields, `senel`
+/// and `indicator_30` are left untouched: their definitions differ between authorities.
+VARNO_CALC_COMMON_EXPORT void
+Calc_FillExposure(std::vector<noise_event_t> const& events, double threshold,
+                  boost::shared_ptr<integrated_noise_indicators_t> indicators);
 
 #endif // CALC_COMMON_METRICS_HPP
