@@ -6,7 +6,7 @@
 
 using namespace metrics_test;
 
-TEST(ToneCorrection, FlatAndSmoothlySlopingSpectraHaveNone) {
+TEST(ToneCorrection, SmoothSpectraHaveNoneAndTheLastBandFollowsTheSlope) {
     std::vector<double> sloping(24);
     for (std::size_t i = 0; i < 24; ++i) {
         sloping[i] = 90.0 - 1.5 * static_cast<double>(i);
@@ -16,6 +16,11 @@ TEST(ToneCorrection, FlatAndSmoothlySlopingSpectraHaveNone) {
         EXPECT_EQ(c.correction, 0.0);
         EXPECT_EQ(c.band_index, -1);
     }
+    // A tone in the last band is judged against the continued slope below it: F is its height.
+    sloping[23] += 10.0;
+    tone_correction_t const last = Calc_ToneCorrectionDetail(tob_spectrum(sloping));
+    EXPECT_NEAR(last.level_differences[23], 10.0, 1e-9);
+    EXPECT_NEAR(last.correction, 10.0 / 6.0, 1e-9);
 }
 
 TEST(ToneCorrection, OneProtrudingBandFollowsTheCorrectionTable) {
