@@ -49,7 +49,7 @@ VARNO_CALC_COMMON_EXPORT double Calc_AWeightedLevel(std::vector<double> const& t
 /// Perceived noisiness in noy of a level in dB in grid band `band_index` (0 is 50 Hz, 23 is
 /// 10 kHz), from the mathematical formulation of the noy tables of aircraft noise
 /// certification: 1 noy at 40 dB at 1 kHz, doubling every 10 dB above; 0 below the lowest
-/// breakpoint of the band.
+/// breakpoint of the band. Throws varno_calc_error for an index past 23.
 VARNO_CALC_COMMON_EXPORT double Calc_Noy(std::size_t band_index, double level);
 
 /// Perceived noise level PNL in PNdB: N = 0.85 n_max + 0.15 sum(n) over the 24 bands, then
