@@ -6,8 +6,7 @@
 
 #include <utility>
 
-using VARNO::detail::tolerantly_above;
-using VARNO::detail::tolerantly_at_least;
+using namespace VARNO::detail;
 
 double Calc_AngularInterp_Linear(double const* angles, double const* values, std::size_t const& n,
                                  double const& angle, bool /*extrapolate*/) {

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <vector>
 
+using namespace VARNO::detail;
+
 // The band-slope procedure of tone correction for perceived noise: changes of slope between
 // adjacent bands flag candidate tones, the flagged bands are bridged by their neighbours, and a
 // baseline is rebuilt from three-band averages of the bridged slopes. A band that stands
@@ -13,8 +15,6 @@
 // first to the last that hold any level.
 
 namespace {
-
-using VARNO::detail::empty_band_level;
 
 // Scratch arrays of one locator, reused while the band count stays the same.
 struct frequency_locator_workspace {
@@ -154,7 +154,7 @@ void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> spectrum, double slope_step
     static frequency_locator_workspace work;
     std::vector<double> const& levels = spectrum->values;
     // A spectrum with no level at all runs through the procedure on band 0 alone.
-    locate_by_frequency<VARNO::detail::tolerant_comparison>(
+    locate_by_frequency<tolerant_comparison>(
         levels.data(), levels.size(), find_occupied_span(levels.data(), levels.size()), slope_step,
         tone_margin, work, broadband->values.data(), tones->values.data());
 }

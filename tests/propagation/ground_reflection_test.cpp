@@ -1,5 +1,6 @@
 #include <calc-common/frame.hpp>
 #include <calc-common/propagation.hpp>
+#include <calc-common/scenario.hpp>
 
 #include "reference_data.hpp"
 #include "support/allocation_counter.hpp"
