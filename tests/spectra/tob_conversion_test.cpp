@@ -110,11 +110,12 @@ TEST(TobConversion, FilteredLinesReachEveryBandThroughTheCurve) {
 TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
     // Lines at 60 dB: 1 kHz lies inside its band; 900 Hz is in the overlap of the 1 kHz band's
     // lower edge (891.25 Hz * 1.04) and 1100 Hz in that of its upper edge (1122 Hz / 1.04);
-    // 45 Hz shares 0.415 with a band below the grid, which is lost. Lines below 1 Hz and those
-    // of bands off the grid are dropped, and a silent line alone leaves its band silent.
-    boost::shared_ptr<spectrum_t> input =
-        listed_lines({1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0},
-                     {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0});
+    // 45 Hz shares 0.415 with a band below the grid, which is lost. Lines below 1 Hz, at a
+    // frequency that is not a finite number and of bands off the grid are dropped, and a silent
+    // line alone leaves its band silent.
+    boost::shared_ptr<spectrum_t> input = listed_lines(
+        {1000.0, 900.0, 1100.0, 45.0, 0.5, 12000.0, 2000.0, std::nan(""), HUGE_VAL, -HUGE_VAL},
+        {60.0, 60.0, 60.0, 60.0, 90.0, 90.0, 0.0, 90.0, 90.0, 90.0});
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
     ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_line_band, 3), 0);
     EXPECT_NEAR(output->at(0), 57.67023862295765, 1e-12);
