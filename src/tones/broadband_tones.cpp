@@ -88,12 +88,11 @@ int Calc_BBTones(boost::shared_ptr<spectrum_t> spectrum, double const& check_mar
         floor[i] = levels[i];
         tone_levels[i] = 0.0;
     }
-    // Above it a tone band keeps the energetic excess of the input over the floor.
+    // Above it a tone band keeps the energetic excess of the input over the floor; a band whose
+    // excess rounds away to nothing holds no tone, that is silence.
     for (std::size_t i = cut + 1; i < n; ++i) {
-        tone_levels[i] =
-            levels[i] > floor[i]
-                ? level_of_energy(energy_of_level(levels[i]) - energy_of_level(floor[i]))
-                : 0.0;
+        double const excess = energy_of_level(levels[i]) - energy_of_level(floor[i]);
+        tone_levels[i] = levels[i] > floor[i] && excess > 0.0 ? level_of_energy(excess) : 0.0;
     }
     return k;
 }
