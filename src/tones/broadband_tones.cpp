@@ -49,8 +49,8 @@ int Calc_SeparateTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
 int Calc_SeparateTonesArray(double const* levels, std::size_t band_count, double* broadband,
                             double* tones, double check_margin, double cut_frequency,
                             tone_sep_method_t method, double slope_step, double tone_margin) {
-    static std::vector<double> input;
-    static std::vector<double> floor;
+    thread_local std::vector<double> input;
+    thread_local std::vector<double> floor;
     if (input.size() != band_count) {
         input.resize(band_count);
         floor.resize(band_count);

@@ -145,7 +145,7 @@ void Calc_DopplerizeTone(boost::shared_ptr<spectrum_t> tones,
                          boost::shared_ptr<spectrum_t> shifted, double* shifted_frequency,
                          double* tone_level, double* tone_level_copy, bool exact_energy,
                          bool keep_broadband) {
-    static boost::shared_ptr<spectrum_t> const tone_scratch = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const tone_scratch = spectrum_t::create_tob();
     tone_scratch->frequency_range = tones->frequency_range;
 
     std::vector<double> const& tone_levels = tones->values;

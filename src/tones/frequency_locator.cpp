@@ -151,7 +151,7 @@ void locate_by_frequency(double const* levels, std::size_t n, occupied_span span
 void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> spectrum, double slope_step,
                        double tone_margin, boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones) {
-    static frequency_locator_workspace work;
+    thread_local frequency_locator_workspace work;
     std::vector<double> const& levels = spectrum->values;
     // A spectrum with no level at all runs through the procedure on band 0 alone.
     locate_by_frequency<tolerant_comparison>(
@@ -162,7 +162,7 @@ void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> spectrum, double slope_step
 void VARNO::detail::Calc_TonesLocFreqArray(std::vector<double> const& levels, double* broadband,
                                            double* tones, double const* slope_step,
                                            double const* tone_margin) {
-    static frequency_locator_workspace work;
+    thread_local frequency_locator_workspace work;
     std::size_t const n = levels.size();
     bool const any_level = std::any_of(levels.begin(), levels.end(),
                                        [](double level) { return level > empty_band_level; });

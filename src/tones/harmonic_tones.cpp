@@ -165,10 +165,10 @@ void Calc_EnscaBBTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
                        tone_sep_method_t method, double slope_step, double tone_margin,
                        boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones) {
-    static boost::shared_ptr<spectrum_t> const adjusted_tones = spectrum_t::create_tob();
-    static boost::shared_ptr<spectrum_t> const unshifted_scratch = spectrum_t::create_tob();
-    static boost::shared_ptr<spectrum_t> const shifted_scratch = spectrum_t::create_tob();
-    static std::vector<int> harmonic_bands;
+    thread_local boost::shared_ptr<spectrum_t> const adjusted_tones = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const unshifted_scratch = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const shifted_scratch = spectrum_t::create_tob();
+    thread_local std::vector<int> harmonic_bands;
 
     Calc_SeparateTones(spectrum, check_margin, cut_frequency, gap_value, method, slope_step,
                        tone_margin, broadband, tones);
