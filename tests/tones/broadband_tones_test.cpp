@@ -157,7 +157,7 @@ TEST(ToneSeparation, AllocatesNothingAfterTheFirstCallOnAGrid) {
         Calc_DopplerizeTone(tones, broadband, 1.1, 455.0, unshifted, shifted, &shifted_frequency,
                             &level, nullptr, true, false);
     };
-    run_all(); // sizes the static workspaces for the 24-band grid
+    run_all(); // sizes this thread's workspaces for the 24-band grid
     test_support::AllocationCounter counter;
     run_all();
     EXPECT_EQ(counter.count(), 0u);
