@@ -3,7 +3,8 @@
 
 // The numeric rules every subsystem shares, each in its own header: tolerant comparison,
 // levels and energies, third-octave band arithmetic, and the shared constants (angles, the
-// speed of sound).
+// speed of sound). Code outside VARNO::detail reaches them, as every internal routine, through
+// one file-scope `using namespace VARNO::detail;` after its includes.
 
 #include "frame/bands.hpp"
 #include "frame/constants.hpp"

@@ -74,7 +74,7 @@ void extrapIntegratedMetrics(double const& start_distance, double const& speed,
         double const level = ratio_form ? 20 * std::log10(start_distance / distance) + start_level
                                         : start_level - 20 * std::log10(distance / start_distance);
         // Every sample carries its energy, however faint: no cut applies to this sum.
-        *energy += std::pow(10.0, level / 10) * half_step;
+        *energy += energy_of_level(level) * half_step;
         if (!tolerantly_above(level, stop_level)) {
             return;
         }
