@@ -23,17 +23,6 @@ TEST(TolerantComparison, DifferencesWithinRoundingCountAsEqual) {
     EXPECT_TRUE(tolerantly_below(-1e-300, 0.0));
 }
 
-TEST(LevelAddition, CutsAtOneDecibel) {
-    EXPECT_NEAR(add_levels(50.0, 50.0), 53.0103, 1e-4);
-    EXPECT_EQ(add_levels(1.0, 0.0), 0.0);
-    EXPECT_EQ(add_levels(1.0, 1.0), 0.0);
-    EXPECT_DOUBLE_EQ(add_levels(1.5, 1.0), 1.5);
-    EXPECT_DOUBLE_EQ(add_levels(-20.0, 60.0), 60.0);
-    EXPECT_DOUBLE_EQ(add_levels(std::nan(""), 40.0), 40.0);
-    // Just above the cut a level carries its energy of about 1.26.
-    EXPECT_NEAR(level_to_energy(std::nextafter(1.0, 2.0)), 1.2589, 1e-4);
-}
-
 TEST(BandArithmetic, GridIndicesAndEdges) {
     EXPECT_EQ(band_number(50.0), 17);
     EXPECT_EQ(tob_index(50.0), 0);

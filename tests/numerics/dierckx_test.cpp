@@ -145,30 +145,17 @@ TEST(Curfit, AKnotRequestBeyondAnIntIsBoundedWhileADouble) {
     // A continued fit whose last step lowered fp by one part in 1e15 asks, for a smoothing
     // factor far below fp, for about 1e15 knots at once: the search must add at most twice the
     // knots of its last step and go on until the smoothing condition holds.
-    int const m = 20;
-    int const k = 3;
-    int const nest = m + k + 1;
-    int const lwrk = m * (k + 1) + nest * (7 + 3 * k);
-    std::vector<double> x(m), y(m), w(m, 1.0), t(nest), c(nest), wrk(lwrk);
-    std::vector<int> iwrk(nest);
-    for (int i = 0; i < m; ++i) {
-        x[i] = i;
-        y[i] = std::sin(i);
-    }
-    int n = 10;
-    std::vector<double> const knots = {0, 0, 0, 0, 6, 12, 19, 19, 19, 19};
-    std::copy(knots.begin(), knots.end(), t.begin());
-    double fp = 0.0;
-    int ier = 0;
-    curfit(-1, m, x.data(), y.data(), w.data(), 0.0, 19.0, k, 0.0, nest, n, t.data(), c.data(), fp,
-           wrk.data(), lwrk, iwrk.data(), ier);
-    ASSERT_EQ(ier, 0);
-    wrk[n - 1] = 2.0 * fp;           // residual of the polynomial
-    wrk[n - 2] = fp * (1.0 + 1e-15); // residual of the knots before these
-    iwrk[n - 1] = 1;                 // knots added at the last step
-    double const s = fp * 1e-13;
-    curfit(1, m, x.data(), y.data(), w.data(), 0.0, 19.0, k, s, nest, n, t.data(), c.data(), fp,
-           wrk.data(), lwrk, iwrk.data(), ier);
-    EXPECT_EQ(ier, 0);
-    EXPECT_NEAR(fp, s, 0.001 * s);
+    Table const table(20);
+    Curfit fit(table.m(), 24);
+    fit.n = 10;
+    fit.t[4] = 6.0, fit.t[5] = 12.0;
+    fit.run(table, -1, 0.0);
+    ASSERT_EQ(fit.ier, 0);
+    fit.wrk[fit.n - 1] = 2.0 * fit.fp;           // residual of the polynomial
+    fit.wrk[fit.n - 2] = fit.fp * (1.0 + 1e-15); // residual of the knots before these
+    fit.iwrk[fit.n - 1] = 1;                     // knots added at the last step
+    double const s = fit.fp * 1e-13;
+    fit.run(table, 1, s);
+    EXPECT_EQ(fit.ier, 0);
+    EXPECT_NEAR(fit.fp, s, 0.001 * s);
 }
