@@ -21,11 +21,21 @@ inline double energy_of_level(double level_db) {
     return std::pow(10.0, level_db / 10.0);
 }
 
-/// The same energy written 10^(0.1*L), which rounds one bit apart from 10^(L/10). The band
-/// summations and the reading of tones from bands are made this way; each caller keeps the
-/// rounding it was calibrated with.
+/// The same energy written 10^(0.1*L), which rounds one bit apart from 10^(L/10). The reading
+/// of tones from bands is made this way; each caller keeps the rounding it was calibrated with.
 inline double energy_of_level_tenths(double level_db) {
     return std::pow(10.0, 0.1 * level_db);
+}
+
+/// Exponent per dB of a level's energy, ln(10)/10: 10^(L/10) = exp(L * ln(10)/10).
+constexpr double energy_exponent_per_db = 0.23025850929940456840;
+
+/// Energy 10^(L/10) of a level in dB with no cut, taken as one exponential exp(L*ln(10)/10),
+/// which costs less than half a power and agrees with it to a few units in the last place. The
+/// kernels that take an energy for every line and column of a spectrum, and sum energies, use
+/// it; routines that subtract energies keep the power they were calibrated with.
+inline double fast_energy_of_level(double level_db) {
+    return std::exp(level_db * energy_exponent_per_db);
 }
 
 /// Level 10*log10(E) in dB of an energy, with no cut: an energy of 0 gives minus infinity.
@@ -42,7 +52,7 @@ inline double uncut_band_level(double energy) {
 /// Energy of a level, or 0 for a level at or below the cut. The comparison is plain: a
 /// not-a-number level counts as silence.
 inline double level_to_energy(double level_db) {
-    return level_db > level_cut_db ? energy_of_level(level_db) : 0.0;
+    return level_db > level_cut_db ? fast_energy_of_level(level_db) : 0.0;
 }
 
 /// Level of an energy sum, or 0.0 (silence) for a sum at or below 1.

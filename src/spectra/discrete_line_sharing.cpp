@@ -58,7 +58,7 @@ void share_discrete_lines_into_tob(frequency_range_t const& range,
             std::size_t const index = static_cast<std::size_t>(shares.index[part]);
             for (std::size_t column = 0; column < columns; ++column) {
                 tob_levels[index * columns + column] +=
-                    shares.share[part] * energy_of_level_tenths(levels[k * columns + column]);
+                    shares.share[part] * fast_energy_of_level(levels[k * columns + column]);
             }
         }
     }

@@ -1,9 +1,9 @@
 #include "spectra/tob_conversion.hpp"
 
 #include "frame/numeric_helpers.hpp"
+#include "spectra/tob_line_weights.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 // Summation of a regular narrowband grid into the third-octave bands. Every line carries the
@@ -17,31 +17,11 @@ namespace {
 
 constexpr std::size_t band_count = tob_band_count;
 
-// Band i of the grid runs from tob_fl[16 + i] to tob_fl[17 + i].
-double band_lower(std::size_t band) {
-    return tob_fl[tob_first_band - 1 + band];
-}
-
-double band_upper(std::size_t band) {
-    return tob_fl[tob_first_band + band];
-}
-
 // The bands [first, last) that the summation fills.
 struct band_span {
     std::size_t first;
     std::size_t last;
 };
-
-// All of a line goes to one band: the span starts at the first band whose lower edge the grid
-// reaches. Which bands the lines actually reach is settled by the line-to-band map.
-std::size_t first_band_of_whole_lines(frequency_range_t const& range) {
-    for (std::size_t band = 0; band < band_count; ++band) {
-        if (tolerantly_at_most(range.f_start, band_lower(band))) {
-            return band;
-        }
-    }
-    return 0;
-}
 
 // Lines are spread over bands, so a band is filled only when the grid covers it by half a line
 // beyond its edges and it spans more than `line_count` lines: bands too narrow for the
@@ -51,14 +31,14 @@ band_span bands_of_spread_lines(frequency_range_t const& range, int line_count) 
     double const narrowest = (static_cast<double>(line_count) + 1.0) * range.df;
     band_span span{0, band_count};
     for (std::size_t band = 0; band < band_count; ++band) {
-        if (tolerantly_above(band_upper(band) - band_lower(band), narrowest) &&
-            tolerantly_below(range.f_start, band_lower(band) - half_line)) {
+        if (tolerantly_above(tob_band_upper(band) - tob_band_lower(band), narrowest) &&
+            tolerantly_below(range.f_start, tob_band_lower(band) - half_line)) {
             span.first = band;
             break;
         }
     }
     for (std::size_t band = 0; band < band_count; ++band) {
-        if (tolerantly_below(range.f_end, band_upper(band) + half_line)) {
+        if (tolerantly_below(range.f_end, tob_band_upper(band) + half_line)) {
             span.last = band + 1;
             break;
         }
@@ -66,32 +46,16 @@ band_span bands_of_spread_lines(frequency_range_t const& range, int line_count) 
     return span;
 }
 
-// Method 0. The grid ascends, so the map from line to band is a run of consecutive lines per
-// band, built in one pass: band i holds lines [run_start[i], run_start[i + 1]). Lines below the
-// first band or above the last belong to none. The sum is then one pow and one addition per
-// line and column, with no allocation.
+// Method 0: every line goes wholly to the band that holds it, one energy and one addition per
+// line and column.
 void sum_whole_lines(frequency_range_t const& range, std::vector<double> const& levels,
                      std::size_t columns, std::vector<double>& energies) {
-    std::size_t const first = first_band_of_whole_lines(range);
-    std::size_t const lines = range.count;
-    std::array<std::size_t, band_count + 1> run_start{};
-    std::size_t line = 0;
-    while (line < lines && tolerantly_below(range(line), band_lower(first))) {
-        ++line;
-    }
-    for (std::size_t band = first; band < band_count; ++band) {
-        run_start[band] = line;
-        while (line < lines && tolerantly_below(range(line), band_upper(band))) {
-            ++line;
-        }
-    }
-    run_start[band_count] = line;
-
-    for (std::size_t band = first; band < band_count; ++band) {
-        for (std::size_t k = run_start[band]; k < run_start[band + 1]; ++k) {
+    whole_line_runs const& runs = whole_line_runs_of(range);
+    for (std::size_t band = runs.first_band; band < band_count; ++band) {
+        for (std::size_t k = runs.run_start[band]; k < runs.run_start[band + 1]; ++k) {
             for (std::size_t column = 0; column < columns; ++column) {
                 energies[band * columns + column] +=
-                    energy_of_level_tenths(levels[k * columns + column]);
+                    fast_energy_of_level(levels[k * columns + column]);
             }
         }
     }
@@ -99,52 +63,50 @@ void sum_whole_lines(frequency_range_t const& range, std::vector<double> const& 
 
 // Method 1: every band of the span takes the line through its band-pass curve, centred on the
 // band's nominal frequency. The curve's weight 10^(-W/10), W = 10*log10(1 + (Q*detuning)^6),
-// is the power response itself, so it costs no pow.
+// is the power response itself, so it costs no power.
 void sum_filtered_lines(frequency_range_t const& range, std::vector<double> const& levels,
                         std::size_t columns, band_span span, std::vector<double>& energies) {
-    // Computed once, on first use; the language makes concurrent first calls wait for it.
-    static double const q = butterworth_band_q(2.0, 3, tob_filter_order);
-    for (std::size_t k = 0; k < range.count; ++k) {
-        double const frequency = range(k);
+    double const* weights = filter_weights_of(range).data();
+    for (std::size_t k = 0; k < range.count; ++k, weights += band_count) {
         for (std::size_t column = 0; column < columns; ++column) {
-            double const energy = energy_of_level_tenths(levels[k * columns + column]);
+            double const energy = fast_energy_of_level(levels[k * columns + column]);
             for (std::size_t band = span.first; band < span.last; ++band) {
-                double const centre = tob_fc_nominal[tob_first_band - 1 + band];
-                energies[band * columns + column] +=
-                    energy * band_pass_power_response(q, tob_filter_order, frequency, centre);
+                energies[band * columns + column] += energy * weights[band];
             }
         }
     }
 }
 
-// Method 2: a line covers df around its frequency, and a band takes the part of that width
-// that lies between its edges.
-double overlap_share(double frequency, double lower, double upper, double half_line, double df) {
-    if (!tolerantly_below(lower - half_line, frequency) ||
-        !tolerantly_below(frequency, upper + half_line)) {
-        return 0.0;
+// Method 2: a band takes the part of each line's width that lies between its edges. A line
+// whose energy is not finite still poisons every band of the span, as its product with a zero
+// share would.
+void add_to_every_band(double energy, band_share const* first, band_share const* last,
+                       band_span span, double* energies, std::size_t columns) {
+    for (std::size_t band = span.first; band < span.last; ++band) {
+        while (first != last && first->band < band) {
+            ++first;
+        }
+        double const share = first != last && first->band == band ? first->share : 0.0;
+        energies[band * columns] += energy * share;
     }
-    if (tolerantly_at_most(lower + half_line, frequency) &&
-        tolerantly_at_most(frequency, upper - half_line)) {
-        return 1.0;
-    }
-    if (tolerantly_below(frequency, lower + half_line)) {
-        return (frequency - lower + half_line) / df;
-    }
-    return (upper - frequency + half_line) / df;
 }
 
 void sum_overlapping_lines(frequency_range_t const& range, std::vector<double> const& levels,
                            std::size_t columns, band_span span, std::vector<double>& energies) {
-    double const half_line = range.df / 2.0;
+    overlap_shares const& shares = overlap_shares_of(range);
     for (std::size_t k = 0; k < range.count; ++k) {
-        double const frequency = range(k);
+        band_share const* first = shares.entries.data() + shares.first_entry[k];
+        band_share const* last = shares.entries.data() + shares.first_entry[k + 1];
         for (std::size_t column = 0; column < columns; ++column) {
-            double const energy = energy_of_level_tenths(levels[k * columns + column]);
-            for (std::size_t band = span.first; band < span.last; ++band) {
-                double const share = overlap_share(frequency, band_lower(band), band_upper(band),
-                                                   half_line, range.df);
-                energies[band * columns + column] += energy * share;
+            double const energy = fast_energy_of_level(levels[k * columns + column]);
+            if (!std::isfinite(energy)) {
+                add_to_every_band(energy, first, last, span, energies.data() + column, columns);
+                continue;
+            }
+            for (band_share const* part = first; part != last; ++part) {
+                if (part->band >= span.first && part->band < span.last) {
+                    energies[part->band * columns + column] += energy * part->share;
+                }
             }
         }
     }

@@ -181,14 +181,36 @@ TEST(TobConversion, FieldColumnsConvertAsSeparateSpectra) {
     }
 }
 
-TEST(TobConversion, SummationAllocatesNothing) {
+// The weights a thread keeps for one grid must give what a first call on the grid gives, after
+// another grid has come between, and cost no allocation once built.
+TEST(TobConversion, KeptGridWeightsMatchFirstCallsAndAllocateNothing) {
     boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 5.0, 40.0);
+    input->at(200) = 70.0;
+    boost::shared_ptr<spectrum_t> other = narrowband(2.0, 8000.0, 3.0, 50.0);
     boost::shared_ptr<spectrum_t> lines = listed_lines({100.0, 1000.0, 5000.0}, {50.0, 60.0, 70.0});
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    for (int method = 0; method < 3; ++method) {
+        auto const how = static_cast<nbtob_conversion_method>(method);
+        boost::shared_ptr<spectrum_t> first = spectrum_t::create_tob();
+        convert_spectrum_to_tob(input, first, how, 0);
+        convert_spectrum_to_tob(other, output, how, 0);
+        convert_spectrum_to_tob(input, output, how, 0);
+        EXPECT_EQ(output->values, first->values) << "method " << method;
+    }
     test_support::AllocationCounter counter;
     for (int method = 0; method < 3; ++method) {
         convert_spectrum_to_tob(input, output, static_cast<nbtob_conversion_method>(method), 0);
     }
     convert_spectrum_to_tob(lines, output, nbtob_line_band, 0);
     EXPECT_EQ(counter.count(), 0u);
+}
+
+// A line at 1001 Hz loud enough that its energy overflows spoils every band of the span, as
+// its product with a zero share does, and a spoilt band reads as one that no energy reaches.
+TEST(TobConversion, OverflowingLineSilencesEveryBandOfTheSpan) {
+    boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 5.0, 40.0);
+    input->at(200) = 4000.0;
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    convert_spectrum_to_tob(input, output, nbtob_width_overlap, 0);
+    EXPECT_EQ(output->values, std::vector<double>(24, 0.0));
 }
