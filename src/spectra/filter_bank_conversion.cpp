@@ -50,22 +50,44 @@ filter_bank_shape filter_bank_shape_of(nbtob_conversion_method method) {
     }
 }
 
+filter_banks::filter_banks()
+    : twelfth_octaves(12, bank_low_hz, bank_high_hz, bank_order, bank_base_two)
+    , third_octaves(3, bank_low_hz, bank_high_hz, bank_order, bank_base_two)
+    , octaves(1, bank_low_hz, bank_high_hz, bank_order, bank_base_two) {}
+
+filter_banks const& shared_filter_banks() {
+    // Built on first use; the language makes concurrent first calls wait for it.
+    static filter_banks const banks;
+    return banks;
+}
+
+filter_bank_scratch& filter_bank_scratch::of_this_thread() {
+    thread_local filter_bank_scratch scratch;
+    return scratch;
+}
+
 filter_bank_conversion::filter_bank_conversion(frequency_range_t const& range,
                                                std::vector<double> const& levels,
                                                std::size_t columns, filter_bank_shape shape)
     : range_(range)
     , columns_(columns)
     , shape_(shape)
-    , line_energies_(range.count * columns)
-    , coarser_energies_(columns)
-    , finer_cells_(columns)
-    , coarser_cells_(columns)
-    , twelfth_octaves_(12, bank_low_hz, bank_high_hz, bank_order, bank_base_two)
-    , third_octaves_(3, bank_low_hz, bank_high_hz, bank_order, bank_base_two)
-    , octaves_(1, bank_low_hz, bank_high_hz, bank_order, bank_base_two) {
+    , banks_(shared_filter_banks())
+    , scratch_(filter_bank_scratch::of_this_thread()) {
     // Each line's energy is needed by every band whose filter passes it: take it once.
-    for (std::size_t entry = 0; entry < line_energies_.size(); ++entry) {
-        line_energies_[entry] = energy_of_level_tenths(levels[entry]);
+    std::vector<double>& energies = scratch_.line_energies;
+    energies.resize(range.count * columns);
+    for (std::size_t entry = 0; entry < energies.size(); ++entry) {
+        energies[entry] = fast_energy_of_level(levels[entry]);
+    }
+    for (std::vector<double>* sums :
+         {&scratch_.coarser_energies, &scratch_.finer_cells, &scratch_.coarser_cells}) {
+        sums->resize(columns);
+    }
+    regular_grid_key const grid = regular_grid_key::of(range);
+    if (!grid.same_grid(scratch_.responses_grid)) {
+        scratch_.responses_grid = grid;
+        scratch_.responses_in_use = 0;
     }
 }
 
@@ -92,17 +114,17 @@ void filter_bank_conversion::band_levels(std::size_t bands_per_octave, double f_
 acoustics::OctaveBandFilterBank const&
 filter_bank_conversion::bank_with(std::size_t bands_per_octave) const {
     if (bands_per_octave == 12) {
-        return twelfth_octaves_;
+        return banks_.twelfth_octaves;
     }
-    return bands_per_octave == 3 ? third_octaves_ : octaves_;
+    return bands_per_octave == 3 ? banks_.third_octaves : banks_.octaves;
 }
 
 acoustics::OctaveBandFilterBank const*
 filter_bank_conversion::coarser_than(std::size_t bands_per_octave) const {
     if (bands_per_octave == 12) {
-        return &third_octaves_;
+        return &banks_.third_octaves;
     }
-    return bands_per_octave == 3 ? &octaves_ : nullptr;
+    return bands_per_octave == 3 ? &banks_.octaves : nullptr;
 }
 
 void filter_bank_conversion::add_band_energy(acoustics::OctaveBandFilterBank const& bank,
@@ -122,16 +144,19 @@ void filter_bank_conversion::add_band_energy(acoustics::OctaveBandFilterBank con
         add_filtered_energy(bank, filter, shape_, energies);
         return;
     }
-    for (std::vector<double>* scratch : {&coarser_energies_, &finer_cells_, &coarser_cells_}) {
-        std::fill(scratch->begin(), scratch->end(), 0.0);
+    std::vector<double>& coarser_energies = scratch_.coarser_energies;
+    std::vector<double>& finer_cells = scratch_.finer_cells;
+    std::vector<double>& coarser_cells = scratch_.coarser_cells;
+    for (std::vector<double>* sums : {&coarser_energies, &finer_cells, &coarser_cells}) {
+        std::fill(sums->begin(), sums->end(), 0.0);
     }
-    add_filtered_energy(*coarser, *holder, shape_, coarser_energies_.data());
-    add_filtered_energy(bank, filter, filter_bank_proportional, finer_cells_.data());
-    add_filtered_energy(*coarser, *holder, filter_bank_proportional, coarser_cells_.data());
+    add_filtered_energy(*coarser, *holder, shape_, coarser_energies.data());
+    add_filtered_energy(bank, filter, filter_bank_proportional, finer_cells.data());
+    add_filtered_energy(*coarser, *holder, filter_bank_proportional, coarser_cells.data());
     for (std::size_t column = 0; column < columns_; ++column) {
-        if (coarser_cells_[column] > 0.0) {
+        if (coarser_cells[column] > 0.0) {
             energies[column] +=
-                coarser_energies_[column] * finer_cells_[column] / coarser_cells_[column];
+                coarser_energies[column] * finer_cells[column] / coarser_cells[column];
         }
     }
 }
@@ -140,16 +165,45 @@ void filter_bank_conversion::add_filtered_energy(acoustics::OctaveBandFilterBank
                                                  acoustics::OctaveBandFilter const& filter,
                                                  filter_bank_shape shape, double* energies) const {
     line_span const lines = lines_reaching(filter, shape);
+    double const* responses = shape == filter_bank_butterworth && scratch_.responses_grid.regular
+                                  ? butterworth_responses(bank, filter)
+                                  : nullptr;
     for (std::size_t line = lines.first; line < lines.last; ++line) {
-        double const passed = response(bank, filter, shape, range_(line));
+        double const passed =
+            responses != nullptr ? responses[line] : response(bank, filter, shape, range_(line));
         if (passed == 0.0) {
             continue;
         }
-        double const* energies_of_line = &line_energies_[line * columns_];
+        double const* energies_of_line = &scratch_.line_energies[line * columns_];
         for (std::size_t column = 0; column < columns_; ++column) {
             energies[column] += passed * energies_of_line[column];
         }
     }
+}
+
+// A Butterworth band hears every line, and its responses depend on the grid alone: they are
+// computed on the first conversion of a regular grid and read back by the next ones.
+double const*
+filter_bank_conversion::butterworth_responses(acoustics::OctaveBandFilterBank const& bank,
+                                              acoustics::OctaveBandFilter const& filter) const {
+    auto& kept = scratch_.responses;
+    auto const in_use = kept.begin() + static_cast<std::ptrdiff_t>(scratch_.responses_in_use);
+    auto const found = std::find_if(
+        kept.begin(), in_use, [&filter](auto const& entry) { return entry.first == &filter; });
+    if (found != in_use) {
+        return found->second.data();
+    }
+    if (scratch_.responses_in_use == kept.size()) {
+        kept.emplace_back();
+    }
+    auto& entry = kept[scratch_.responses_in_use];
+    entry.first = &filter;
+    entry.second.resize(range_.count);
+    for (std::size_t line = 0; line < range_.count; ++line) {
+        entry.second[line] = response(bank, filter, filter_bank_butterworth, range_(line));
+    }
+    ++scratch_.responses_in_use;
+    return entry.second.data();
 }
 
 filter_bank_conversion::line_span

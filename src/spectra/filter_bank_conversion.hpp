@@ -28,7 +28,10 @@
 
 #include <calc-common/spectra.hpp>
 
+#include "spectra/tob_line_weights.hpp"
+
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace VARNO {
@@ -44,7 +47,36 @@ enum filter_bank_shape : int {
 /// Code of a narrowband conversion method: 0 gives 1, 2 gives 2, anything else 3.
 filter_bank_shape filter_bank_shape_of(nbtob_conversion_method method);
 
-/// Working record of one conversion: the three banks and the energies of the input's lines.
+/// The three banks, 1 Hz to 100 kHz at 12, 3 and 1 bands per octave. They depend on constants
+/// alone: built once, on first use, and shared read-only by every thread.
+struct filter_banks {
+    filter_banks();
+    acoustics::OctaveBandFilterBank twelfth_octaves;
+    acoustics::OctaveBandFilterBank third_octaves;
+    acoustics::OctaveBandFilterBank octaves;
+};
+
+/// The banks every conversion uses.
+filter_banks const& shared_filter_banks();
+
+/// Working storage of the conversions made on one thread: the energies of the input's lines,
+/// the per-column sums of a band resolved through a coarser one, and the Butterworth responses
+/// of the bands to the lines of the last regular grid converted. It survives between calls, so
+/// that a run over many spectra on one grid allocates nothing and computes no response twice.
+struct filter_bank_scratch {
+    std::vector<double> line_energies;
+    std::vector<double> coarser_energies; // per column: the coarser band through the shape
+    std::vector<double> finer_cells;      // per column: the finer band's part of the cells
+    std::vector<double> coarser_cells;    // per column: the coarser band's part of the cells
+    regular_grid_key responses_grid;      // grid of the responses below
+    std::vector<std::pair<acoustics::OctaveBandFilter const*, std::vector<double>>> responses;
+    std::size_t responses_in_use = 0; // entries of `responses` that hold the grid's
+
+    /// This thread's storage.
+    static filter_bank_scratch& of_this_thread();
+};
+
+/// Working record of one conversion, over the shared banks and this thread's storage.
 class filter_bank_conversion {
 public:
     /// Lines of `range` with `columns` levels each (frequency-major), in dB.
@@ -77,16 +109,14 @@ private:
                     acoustics::OctaveBandFilter const& filter, filter_bank_shape shape,
                     double frequency) const;
 
+    double const* butterworth_responses(acoustics::OctaveBandFilterBank const& bank,
+                                        acoustics::OctaveBandFilter const& filter) const;
+
     frequency_range_t const& range_;
     std::size_t columns_;
     filter_bank_shape shape_;
-    std::vector<double> line_energies_;
-    std::vector<double> coarser_energies_; // per column: the coarser band through the shape
-    std::vector<double> finer_cells_;      // per column: the finer band's part of the cells
-    std::vector<double> coarser_cells_;    // per column: the coarser band's part of the cells
-    acoustics::OctaveBandFilterBank twelfth_octaves_;
-    acoustics::OctaveBandFilterBank third_octaves_;
-    acoustics::OctaveBandFilterBank octaves_;
+    filter_banks const& banks_;
+    filter_bank_scratch& scratch_;
 };
 
 } // namespace detail

@@ -2,6 +2,7 @@
 
 #include "narrowband_fixtures.hpp"
 #include "spectra/filter_bank_conversion.hpp"
+#include "support/allocation_counter.hpp"
 
 #include <gtest/gtest.h>
 
@@ -104,4 +105,24 @@ TEST(NbToTob, CoarserBandsHoldTheEnergyOfTheirFinerOnes) {
                            energy(thirds[3 * octave + 2]);
         EXPECT_NEAR(10.0 * std::log10(sum), octaves[octave], 1e-9) << octave;
     }
+}
+
+// The banks are shared and a thread keeps the responses of its last grid: a repeated call
+// gives what the first gave, after another grid has come between, and allocates nothing.
+TEST(NbToTob, RepeatedCallsMatchTheFirstAndAllocateNothing) {
+    boost::shared_ptr<spectrum_t> input = narrowband(1.0, 20000.0, 10.0, 40.0);
+    input->at(100) = 75.0;
+    boost::shared_ptr<spectrum_t> other = narrowband(1.0, 12000.0, 4.0, 45.0);
+    boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
+    for (nbtob_conversion_method method : all_methods) {
+        std::vector<double> const first = filtered(input, method)->values;
+        filtered(other, method);
+        VARNO::TrrApi::NbToTob(input, output, method);
+        EXPECT_EQ(output->values, first) << method;
+    }
+    test_support::AllocationCounter counter;
+    for (nbtob_conversion_method method : all_methods) {
+        VARNO::TrrApi::NbToTob(input, output, method);
+    }
+    EXPECT_EQ(counter.count(), 0u);
 }
