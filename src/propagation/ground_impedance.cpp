@@ -49,50 +49,73 @@ double certification_ground_reflection(double frequency, std::size_t index) {
            x * x * x * x * 1.5765545e-05;
 }
 
-complex delany_bazley_layer_reflection(double frequency, double sigma, double thickness,
-                                       double grazing_rad, air_properties const& air) {
-    double const k = (frequency * two_pi) / air.sound_speed;
-    double const r = frequency / sigma;
-    complex const kc = k * complex{1.0 + 10.8 * std::pow(r, -0.7), 10.3 * std::pow(r, -0.59)};
-    complex const zc =
-        air.impedance * complex{1.0 + 9.08 * std::pow(r, -0.75), 11.9 * std::pow(r, -0.73)};
+delany_bazley_layer::delany_bazley_layer(double sigma, double thickness, double grazing_rad,
+                                         air_properties const& air)
+    : sigma_(sigma)
+    , thickness_(thickness)
+    , cosine_(std::cos(grazing_rad))
+    , sine_(std::sin(grazing_rad))
+    , air_(air) {}
+
+complex delany_bazley_layer::reflection(double frequency) const {
+    double const k = (frequency * two_pi) / air_.sound_speed;
+    // The four powers of f/sigma share one logarithm: r^a = exp(a ln r).
+    double const log_r = std::log(frequency / sigma_);
+    complex const kc =
+        k * complex{1.0 + 10.8 * std::exp(-0.7 * log_r), 10.3 * std::exp(-0.59 * log_r)};
+    complex const zc = air_.impedance * complex{1.0 + 9.08 * std::exp(-0.75 * log_r),
+                                                11.9 * std::exp(-0.73 * log_r)};
     // Refraction into the layer, then the input impedance of a layer on a rigid backing.
-    complex const m = smith_divide(complex{k * std::cos(grazing_rad), 0.0}, kc);
+    complex const m = smith_divide(complex{k * cosine_, 0.0}, kc);
     complex const s = std::sqrt(1.0 - m * m);
-    complex const u = (j * thickness * kc) * s;
-    complex const grow = std::exp(u);
-    complex const decay = std::exp(-u);
+    complex const u = (j * thickness_ * kc) * s;
+    // exp(u) and exp(-u) turn by opposite angles: one sine and cosine serve both.
+    double const cosine = std::cos(u.imag());
+    double const sine = std::sin(u.imag());
+    double const growth = std::exp(u.real());
+    double const decline = std::exp(-u.real());
+    complex const grow{growth * cosine, growth * sine};
+    complex const decay{decline * cosine, -(decline * sine)};
     complex const t = smith_divide((-s) * (grow - decay), grow + decay);
     complex const input_impedance = smith_divide(zc, t);
-    complex const y = smith_divide(complex{air.impedance, 0.0}, input_impedance) * s;
-    double const sine = std::sin(grazing_rad);
-    return smith_divide(sine - y, sine + y);
+    complex const y = smith_divide(complex{air_.impedance, 0.0}, input_impedance) * s;
+    return smith_divide(sine_ - y, sine_ + y);
 }
 
-complex attenborough_reflection(double frequency, double porosity_rate, double flow_resistivity,
-                                double grazing_rad, air_properties const& air) {
+attenborough_ground::attenborough_ground(double porosity_rate, double flow_resistivity,
+                                         double grazing_rad, air_properties const& air)
+    : porosity_rate_(porosity_rate)
+    , flow_resistivity_(flow_resistivity)
+    , sine_(std::sin(grazing_rad))
+    , air_(air) {}
+
+complex attenborough_ground::reflection(double frequency) const {
     double const x = 1.0 / (frequency * 4.408345643370269);
-    double const y = std::sqrt((x * flow_resistivity * 1000.0) / air.density);
-    double const z = x * porosity_rate * air.sound_speed * 0.125 + y;
-    return normalised_reflection(std::sin(grazing_rad) * complex{y, z});
+    double const y = std::sqrt((x * flow_resistivity_ * 1000.0) / air_.density);
+    double const z = x * porosity_rate_ * air_.sound_speed * 0.125 + y;
+    return normalised_reflection(sine_ * complex{y, z});
 }
 
-complex slit_pore_reflection(double frequency, double porosity, double flow_resistivity,
-                             double grazing_deg, air_properties const& air) {
+slit_pore_ground::slit_pore_ground(double porosity, double flow_resistivity, double grazing_deg,
+                                   air_properties const& air)
+    : porosity_(porosity)
+    , resistivity_(flow_resistivity * 1000.0)
+    , tortuosity_(std::pow(porosity, -0.5))
+    , sine_(std::cos((90.0 - grazing_deg) * degrees_to_radians))
+    , air_(air) {}
+
+complex slit_pore_ground::reflection(double frequency) const {
     static double const root_prandtl = std::sqrt(0.71);
-    double const resistivity = flow_resistivity * 1000.0;
-    double const tortuosity = std::pow(porosity, -0.5);
     double const v = std::sqrt(
-        ((frequency * (air.density * 3.0 * two_pi) * tortuosity) / porosity) / resistivity);
+        ((frequency * (air_.density * 3.0 * two_pi) * tortuosity_) / porosity_) / resistivity_);
     complex const compressibility =
         (1.40322 - 0.4032199999999999 * slit_function(v * root_prandtl)) * 7.033275371759331e-06;
-    complex const density = smith_divide(complex{air.density, 0.0}, slit_function(v)) *
-                            (tortuosity / (porosity * porosity));
+    complex const density = smith_divide(complex{air_.density, 0.0}, slit_function(v)) *
+                            (tortuosity_ / (porosity_ * porosity_));
     // The impedance is made dimensionless by the air's and given its scale back, in that order.
     complex const z = std::sqrt(smith_divide(density, compressibility)) *
-                      ((1.0 / air.density) / air.sound_speed) * air.impedance;
-    double const sine = std::cos((90.0 - grazing_deg) * degrees_to_radians);
-    return smith_divide(z * sine - air.impedance, z * sine + air.impedance);
+                      ((1.0 / air_.density) / air_.sound_speed) * air_.impedance;
+    return smith_divide(z * sine_ - air_.impedance, z * sine_ + air_.impedance);
 }
 
 } // namespace detail

@@ -93,34 +93,26 @@ void compute_reflection(common_all_sources_transposition_t const& options,
             user_defined ? options.ground_flow_resistivity : Calc_DelanyBazleySigma(method);
         double const thickness = user_defined ? options.ground_layer_thickness * 0.001
                                               : Calc_DelanyBazleyThickness(sigma);
+        delany_bazley_layer const layer(sigma, thickness, rays.grazing_rad, air);
         store_reflections(
-            grid,
-            [&](double f) {
-                return delany_bazley_layer_reflection(f, sigma, thickness, rays.grazing_rad, air);
-            },
-            reflection, phase);
+            grid, [&layer](double f) { return layer.reflection(f); }, reflection, phase);
         return;
     }
-    case ground_attenborough_user_defined:
+    case ground_attenborough_user_defined: {
+        attenborough_ground const ground(options.attenborough_porosity_rate,
+                                         options.attenborough_flow_resistivity, rays.grazing_rad,
+                                         air);
         store_reflections(
-            grid,
-            [&](double f) {
-                return attenborough_reflection(f, options.attenborough_porosity_rate,
-                                               options.attenborough_flow_resistivity,
-                                               rays.grazing_rad, air);
-            },
-            reflection, phase);
+            grid, [&ground](double f) { return ground.reflection(f); }, reflection, phase);
         return;
-    case ground_slit_pore_user_defined:
+    }
+    case ground_slit_pore_user_defined: {
+        slit_pore_ground const ground(options.slit_pore_porosity,
+                                      options.slit_pore_flow_resistivity, rays.grazing_deg, air);
         store_reflections(
-            grid,
-            [&](double f) {
-                return slit_pore_reflection(f, options.slit_pore_porosity,
-                                            options.slit_pore_flow_resistivity, rays.grazing_deg,
-                                            air);
-            },
-            reflection, phase);
+            grid, [&ground](double f) { return ground.reflection(f); }, reflection, phase);
         return;
+    }
     }
 }
 
