@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Runs every benchmark program of a Release build and prints one table: kernel, median time
-per iteration, the median of its floor from the same run, their ratio, and the heap allocations
+"""Runs every benchmark program of a Release build and prints one table: kernel, median CPU
+time per iteration (which a loaded machine disturbs less than the wall clock), the median of its floor from the same run, their ratio, and the heap allocations
 per iteration in the steady state ("-" where the program does not count them).
 
 A kernel's floor is the benchmark of the same program named `<kernel>_floor` with the same
@@ -26,14 +26,17 @@ SCALE_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 def medians(program, extra):
     output = subprocess.run([program, "--benchmark_format=json",
                              "--benchmark_repetitions=%d" % REPETITIONS,
-                             "--benchmark_report_aggregates_only=true"] + extra,
+                             "--benchmark_report_aggregates_only=true",
+                             "--benchmark_enable_random_interleaving=true"] + extra,
                             check=True, capture_output=True, text=True).stdout
     rows = {}
+    if not output.strip():  # a filter that matches none of the program's benchmarks
+        return rows
     for entry in json.loads(output)["benchmarks"]:
         if entry.get("aggregate_name") != "median":
             continue
         allocations = entry.get("allocs")
-        rows[entry["run_name"]] = (entry["real_time"] * SCALE_NS[entry["time_unit"]], allocations)
+        rows[entry["run_name"]] = (entry["cpu_time"] * SCALE_NS[entry["time_unit"]], allocations)
     return rows
 
 

@@ -168,13 +168,28 @@ void filter_bank_conversion::add_filtered_energy(acoustics::OctaveBandFilterBank
     double const* responses = shape == filter_bank_butterworth && scratch_.responses_grid.regular
                                   ? butterworth_responses(bank, filter)
                                   : nullptr;
+    auto passed_at = [&](std::size_t line) {
+        return responses != nullptr ? responses[line] : response(bank, filter, shape, range_(line));
+    };
+    double const* line_energies = scratch_.line_energies.data();
+    if (columns_ == 1) {
+        // A spectrum's band sum stays in a register instead of going through memory per line.
+        double sum = energies[0];
+        for (std::size_t line = lines.first; line < lines.last; ++line) {
+            double const passed = passed_at(line);
+            if (passed != 0.0) {
+                sum += passed * line_energies[line];
+            }
+        }
+        energies[0] = sum;
+        return;
+    }
     for (std::size_t line = lines.first; line < lines.last; ++line) {
-        double const passed =
-            responses != nullptr ? responses[line] : response(bank, filter, shape, range_(line));
+        double const passed = passed_at(line);
         if (passed == 0.0) {
             continue;
         }
-        double const* energies_of_line = &scratch_.line_energies[line * columns_];
+        double const* energies_of_line = &line_energies[line * columns_];
         for (std::size_t column = 0; column < columns_; ++column) {
             energies[column] += passed * energies_of_line[column];
         }
