@@ -43,6 +43,16 @@ inline double level_of_energy(double energy) {
     return 10.0 * std::log10(energy);
 }
 
+/// Decibels per natural-log unit of energy, 10/ln(10): 10*log10(E) = ln(E) * 10/ln(10).
+constexpr double decibels_per_energy_neper = 4.3429448190325182765;
+
+/// Level 10*log10(E) in dB of an energy with no cut, taken through the natural logarithm,
+/// which costs less than the decimal one and agrees with it to a few units in the last place.
+/// The level addition uses it for every line.
+inline double fast_level_of_energy(double energy) {
+    return std::log(energy) * decibels_per_energy_neper;
+}
+
 /// Level of a band's energy with no cut, or 0.0 for a band that no energy reaches (tolerantly):
 /// a small energy gives a negative level.
 inline double uncut_band_level(double energy) {
@@ -57,7 +67,7 @@ inline double level_to_energy(double level_db) {
 
 /// Level of an energy sum, or 0.0 (silence) for a sum at or below 1.
 inline double energy_to_level(double energy) {
-    return energy > level_cut_db ? level_of_energy(energy) : 0.0;
+    return energy > level_cut_db ? fast_level_of_energy(energy) : 0.0;
 }
 
 /// Energy sum of two levels, each cut, read back in dB with the cut.
