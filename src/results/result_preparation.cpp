@@ -261,3 +261,14 @@ void simulation_t::prepare_integrated_aircraft_results() {
                            ground_range, false);
     }
 }
+
+void simulation_t::clear_directional_results() {
+    // A result made for other points is not this run's: it is left as it is.
+    if (!result || result->points.size() != calculation_points.size()) {
+        return;
+    }
+    for (auto const& point : result->points) {
+        point->directional->clear_values();
+    }
+    result->global->clear_values();
+}

@@ -11,10 +11,6 @@
 
 namespace {
 
-source_type_t source(int value) {
-    return static_cast<source_type_t>(value);
-}
-
 noise_component_t component(int value) {
     return static_cast<noise_component_t>(value);
 }

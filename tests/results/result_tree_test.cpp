@@ -127,8 +127,9 @@ TEST(DirectionalResultPoint, SlotsAreFoundCreatedAndReplaced) {
     for (auto type : {result_type_t::create_total_by_source_type(source(12)),
                       result_type_t::create_total_by_source_type(source(3)),
                       result_type_t::create_genepass(genepass_total_aircraft_tones)}) {
-        EXPECT_EQ(point.create(type, tob_frequency_range_ptr, tob_frequency_range_ptr, true),
-                  point.find(type));
+        auto const made =
+            point.create(type, tob_frequency_range_ptr, tob_frequency_range_ptr, true);
+        EXPECT_EQ(point.find(type), made);
     }
 
     all.clear();
