@@ -52,8 +52,8 @@ bool simulation_t::move_to_next_direction() {
     for (auto const& point : calculation_points) {
         point->directional->clear();
     }
-    // The result tree is cleared here, in place, when it matches the points
-    // (clear_directional_results), so that its records stay valid for the next direction.
+    // Result half of the step, to be called here: clear_directional_results() clears the
+    // result tree in place when it has one point per calculation point.
     ++direction_index;
     return true;
 }
