@@ -2,148 +2,18 @@
 #define CALC_COMMON_SCENARIO_HPP
 
 /// @file
-/// Scenario model: the transposition options, which move a source's noise to the observer, and
-/// the attenuations applied on the way.
+/// Scenario model: the environment that roots a scenario, its aircraft with engines, noise
+/// sources and geometry, the calculations with their prediction and transposition options, the
+/// simulations that join an aircraft to a calculation, their calculation points, and the lookup
+/// of the options in force for one source.
+///
+/// Every record is built with its defaults, which the calculation libraries read without setting
+/// them. Records are held and passed as boost::shared_ptr; a copy shares its parts, and only the
+/// operations named clone copy deeply.
 
-#include <calc-common/export.hpp>
-#include <calc-common/results.hpp>
-#include <calc-common/spectra.hpp>
-#include <calc-common/vocabulary.hpp>
-
-#include <boost/shared_ptr.hpp>
-
-#include <cstddef>
-#include <map>
-#include <string>
-#include <vector>
-
-/// Transposition settings common to every source. Apart from the ground fields, the library
-/// only sets the defaults; the calculation libraries read them.
-struct VARNO_CALC_COMMON_EXPORT common_all_sources_transposition_t {
-    int common_option_1 = 1;
-    int common_option_2 = 1;
-    int common_option_3 = 1;
-    int common_option_4 = 4;
-    bool common_flag = true;
-    /// Ground model of the reflection at the observer.
-    ground_reflection_method_t ground_reflection_method = ground_slit_pore_user_defined;
-    double ground_flow_resistivity = 1.0;       ///< Delany-Bazley user-defined ground, as used
-    double ground_layer_thickness = 0.0;        ///< Delany-Bazley user-defined layer, mm
-    double attenborough_porosity_rate = 0.0;    ///< Attenborough porosity rate
-    double attenborough_flow_resistivity = 0.0; ///< Attenborough flow resistivity, in thousands
-    double slit_pore_porosity = 0.5;            ///< slit-pore porosity (0 to 1)
-    double slit_pore_flow_resistivity = 50.0;   ///< slit-pore flow resistivity, in thousands
-    double common_value_1 = 0.0;
-    double common_value_2 = 0.0;
-    double common_value_3 = 0.0;
-    double common_value_4 = 0.0;
-    double common_value_5 = 0.0;
-};
-
-/// Transposition settings of one source, with defaults that depend on its source type. The
-/// library only sets the defaults; the calculation libraries read them.
-struct VARNO_CALC_COMMON_EXPORT single_source_transposition_t {
-    double level_factor = 1.0;
-    int source_option_1 = 1;
-    int source_option_2 = 0;
-    int source_option_3 = 0;
-    int source_option_4 = 0;
-    int source_option_5 = -2;
-    std::vector<double> source_values_1;
-    std::vector<double> source_values_2;
-    double source_reference = 0.0;
-    bool source_flag_1 = false;
-    bool source_flag_2 = false;
-    bool source_flag_3 = false;
-    bool source_flag_4 = false;
-    bool source_flag_5 = true;
-    bool source_flag_6 = true;
-    bool source_flag_7 = true;
-    bool source_flag_8 = true;
-    double source_distance = 20.0; ///< m
-    double source_value_1 = 0.0;
-    double source_value_2 = 0.0;
-    std::string source_name;
-
-    /// Defaults for a source of `type`: the jet is measured at 10 m, the forward fan (and its
-    /// buzz-saw part) at 0 m, the aft fan and the airframe sources at 40 m, others at 20 m.
-    explicit single_source_transposition_t(source_type_t type);
-};
-
-/// Transposition settings of the total of the aircraft: the single-source defaults of no
-/// particular source type, and settings of the total.
-struct VARNO_CALC_COMMON_EXPORT total_aircraft_transposition_t : single_source_transposition_t {
-    int total_option_1 = 0;
-    int total_option_2 = 3;
-    int total_option_3 = 0;
-    int total_option_4 = 0;
-    double total_value = 0.0;
-    int total_option_5 = 1;
-
-    total_aircraft_transposition_t();
-};
-
-/// The transposition options a calculation owns by default: the total of the aircraft, one
-/// record for each of the 24 source types, and the settings common to all sources.
-struct VARNO_CALC_COMMON_EXPORT default_transposition_options_t {
-    boost::shared_ptr<single_source_transposition_t> total_aircraft;
-    std::map<source_type_t, boost::shared_ptr<single_source_transposition_t>> single_sources;
-    boost::shared_ptr<common_all_sources_transposition_t> common_all_sources;
-
-    default_transposition_options_t();
-};
-
-/// One named attenuation applied to a result. Its values are read by the calculation libraries.
-struct VARNO_CALC_COMMON_EXPORT attenuation_t {
-    double attenuation_value_1 = 0.0;
-    double attenuation_value_2 = 0.0;
-    std::string name;
-    int attenuation_option = 1;
-    boost::shared_ptr<spectrum_t> attenuation_data_1; ///< spectral data, if any
-    boost::shared_ptr<spectrum_t> attenuation_data_2; ///< spectral data, if any
-    int attenuation_option_2 = 0;
-    int attenuation_option_3 = 3;
-
-    /// A copy whose data spectra stay shared with this record.
-    boost::shared_ptr<attenuation_t> clone() const;
-};
-
-/// The attenuations applied to one result, in order.
-struct VARNO_CALC_COMMON_EXPORT attenuation_list_t {
-    std::vector<boost::shared_ptr<attenuation_t>> attenuations;
-
-    /// A new list holding a clone of each attenuation, in order.
-    boost::shared_ptr<attenuation_list_t> clone() const;
-};
-
-/// Two parallel sets of `n` spectral attenuations, empty until the calculation fills them.
-struct VARNO_CALC_COMMON_EXPORT spectrum_attenuation_t {
-    std::vector<boost::shared_ptr<spectrum_t>> attenuation_spectra_1;
-    std::vector<boost::shared_ptr<spectrum_t>> attenuation_spectra_2;
-
-    explicit spectrum_attenuation_t(std::size_t const& n = 0);
-};
-
-/// Comparison function of a map keyed by result identity. It holds the ordering function,
-/// result_type_t::less_than unless another is given, so two keys of one identity are one key.
-struct result_type_order {
-    typedef bool (*function_type)(boost::shared_ptr<result_type_t>,
-                                  boost::shared_ptr<result_type_t>);
-
-    result_type_order(function_type ordering = &result_type_t::less_than)
-        : compare(ordering) {}
-
-    bool operator()(boost::shared_ptr<result_type_t> const& a,
-                    boost::shared_ptr<result_type_t> const& b) const {
-        return compare(a, b);
-    }
-
-    function_type compare;
-};
-
-/// The attenuation lists of an aircraft, by result identity.
-typedef std::map<boost::shared_ptr<result_type_t>, boost::shared_ptr<attenuation_list_t>,
-                 result_type_order>
-    attenuations_t;
+#include <calc-common/scenario/aircraft.hpp>
+#include <calc-common/scenario/prediction_options.hpp>
+#include <calc-common/scenario/simulation.hpp>
+#include <calc-common/scenario/transposition_options.hpp>
 
 #endif // CALC_COMMON_SCENARIO_HPP

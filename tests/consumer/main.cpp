@@ -1,12 +1,40 @@
-// A user of the installed package: two spectra added by energy, and the library's exception
-// caught by its type when the grids differ.
+// A user of the installed package: two spectra added by energy, the library's exception caught
+// by its type when the grids differ, and a small scenario built and stepped through directions.
 #include <calc-common/calc-common.hpp>
 
 #include <boost/make_shared.hpp>
 
 #include <cstdio>
 
+namespace {
+
+// An aircraft with a forward fan, a noise sources calculation and a simulation of three points
+// stepped through two directions: the options in force are the calculation's defaults.
+bool build_scenario() {
+    environment_t environment;
+    auto const aircraft = environment.add_aircraft();
+    aircraft->engine_sources.push_back(boost::make_shared<source_t>(source_fan_forward));
+    auto const calculation = environment.add_tsour_calculation();
+    auto const simulation = environment.add_tsour_simulation(aircraft, calculation);
+    simulation->create_calculation_points(3);
+    simulation->direction_count = 2;
+    simulation->direction_index = 0;
+    bool const stepped = simulation->move_to_next_direction();
+    bool const refused = !simulation->move_to_next_direction();
+    bool const defaults =
+        simulation->get_comp_fan_prediction_options(0) == calculation->prediction_options->fwd_fan;
+    std::printf("scenario: %zu points, fan count %d, stepped %d\n",
+                simulation->calculation_points.size(),
+                simulation->get_fwd_fan_prediction_options(0)->comp_fan_count, stepped);
+    return stepped && refused && defaults;
+}
+
+} // namespace
+
 int main() {
+    if (!build_scenario()) {
+        return 1;
+    }
     boost::shared_ptr<spectrum_t> a = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> b = spectrum_t::create_tob();
     a->fill_with(50.0);
