@@ -138,9 +138,38 @@ def ground():
     write("fuzz_ground_reflection", "early_exit", tob + listed + call(7, d1=0.5) + call(2))
 
 
+def result_readers():
+    def doubles(values):
+        return b"".join(struct.pack("<d", v) for v in values)
+
+    tob_block = doubles(FLOOR)
+    write("fuzz_result_readers", "spectrum", byte(0) + byte(5) + byte(0)
+          + doubles([60, 61.5, 0, 70.25, 1e-3]))
+    write("fuzz_result_readers", "spectrum_cut_short", byte(0) + byte(5) + byte(0)
+          + doubles([60, 61.5])[:13])
+    write("fuzz_result_readers", "spectrum_empty_grid", byte(0) + byte(0) + byte(0)
+          + doubles([60]))
+    indicators = doubles([90 + k / 4 for k in range(27)])
+    write("fuzz_result_readers", "indicators", byte(1) + byte(0) + byte(0) + indicators)
+    write("fuzz_result_readers", "indicators_cut_short", byte(1) + byte(0) + byte(0)
+          + indicators[:215])
+    first, second = 4, 2
+    levels = doubles([1.0] + [50 + k for k in range(9)])
+    groups = doubles([61, 62, 63]) + doubles([71, 72, 73])
+    full = (struct.pack("<i", 31) + levels + groups + doubles([80]) + tob_block + tob_block
+            + doubles([40] * first) + doubles([41] * first) + tob_block
+            + byte(1) + tob_block + byte(0) + tob_block + byte(1) + tob_block)
+    header = byte(2) + byte(first) + byte(second)
+    write("fuzz_result_readers", "directional_all_parts", header + full)
+    write("fuzz_result_readers", "directional_cut_short", header + full[:300])
+    write("fuzz_result_readers", "directional_always_items",
+          header + struct.pack("<i", 0) + levels + doubles([80]) + tob_block)
+
+
 if __name__ == "__main__":
     tob_conversion()
     tones()
     interpolation()
     bspline()
     ground()
+    result_readers()
