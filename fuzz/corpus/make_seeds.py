@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
 """Writes the handmade seed inputs of the fuzz targets, in the byte encoding of
-fuzz/fuzz_input.hpp. Run from anywhere; it rewrites fuzz/corpus/<target>/*.bin."""
+fuzz/fuzz_input.hpp. Run from anywhere; it rewrites the files it names in
+fuzz/corpus/<target>/. Other files there are inputs the fuzzers once found, kept so that the
+faults they showed stay fixed."""
 import math
 import os
 import struct
@@ -115,6 +117,8 @@ def bspline():
           + num(0) + tail)
     write("fuzz_bspline", "smoothing", byte(len(x) - 1) + nums(x) + byte(1) + nums(y)
           + num(0.5) + tail)
+    write("fuzz_bspline", "nearly_interpolating", byte(len(x) - 1) + nums(x) + byte(1)
+          + nums(y) + num(1e-12) + tail)
     write("fuzz_bspline", "polynomial", byte(len(x) - 1) + nums(x) + byte(1) + nums(y)
           + num(1000) + tail)
     write("fuzz_bspline", "unsorted", byte(5) + nums([0, 2, 1, 3, 5, 4]) + byte(0)
