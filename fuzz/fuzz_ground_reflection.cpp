@@ -7,6 +7,7 @@
 
 #include <calc-common/frame.hpp>
 #include <calc-common/propagation.hpp>
+#include <calc-common/scenario.hpp>
 
 #include <boost/make_shared.hpp>
 
