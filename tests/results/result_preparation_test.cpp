@@ -187,26 +187,19 @@ TEST(ResultPreparation, GenePassTreeSlotBySlot) {
 }
 
 TEST(ResultPreparation, DisabledSourcesLeaveOnlyTheAircraftTotal) {
-    environment_t environment;
-    auto aircraft = environment.add_aircraft();
-    add_source(aircraft->engine_sources, source_jet);
-    add_source(aircraft->airframe_sources, source_flaps);
-    auto calculation = environment.add_tsour_calculation();
-    calculation->engine_sources_enabled = calculation->airframe_sources_enabled = false;
-    auto simulation = environment.add_tsour_simulation(aircraft, calculation);
-    simulation->create_calculation_points(1);
+    scenario const s(false);
+    tsour_calculation_t& calculation = *s.simulation->tsour;
+    calculation.engine_sources_enabled = calculation.airframe_sources_enabled = false;
     range_provider_t empty_provider;
-    simulation->prepare_noise_sources_results(empty_provider);
-    std::vector<boost::shared_ptr<directional_result_noise_t>> all;
-    simulation->result->points[0]->directional->get_all(all);
-    EXPECT_EQ(std::count_if(all.begin(), all.end(), [](auto const& r) { return bool(r); }), 1);
-    EXPECT_TRUE(simulation->result->global->total_aircraft);
-    EXPECT_FALSE(simulation->result->global->total_engine);
+    s.simulation->prepare_noise_sources_results(empty_provider);
+    std::vector<std::string> expected(13, "-"); // total engine, five airframe slots, seven fixed
+    expected[9] = "Total aircraft";
+    EXPECT_EQ(s.point_texts(1), expected);
+    EXPECT_FALSE(s.simulation->result->global->total_engine);
 
-    // A source that needs the provider finds it empty.
-    calculation->engine_sources_enabled = true;
-    aircraft->engine_sources[0]->noise = boost::make_shared<source_noise_t>();
-    EXPECT_THROW(simulation->prepare_noise_sources_results(empty_provider),
+    // The jet needs the provider, and finds it empty.
+    calculation.engine_sources_enabled = true;
+    EXPECT_THROW(s.simulation->prepare_noise_sources_results(empty_provider),
                  boost::bad_function_call);
 }
 

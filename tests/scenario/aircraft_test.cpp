@@ -117,6 +117,7 @@ TEST(MeasuredNoise, PowerSettingsAreStoredInTheCanonicalUnitOfTheirFamily) {
     row const rows[] = {
         {3, 3, 100.0, 2, 954.9296585513721}, // N1 in rad/s
         {14, 4, 10.0, 2, 600.0},             // N2 in revolutions per second
+        {5, 4, 1.0, 2, 60.0},                // the unnamed spool speed
         {3, 1, 50.0, 2, 50.0},               // N1 in percent keeps its number
         {7, 8, 1000.0, 7, 100.0},            // FN in N
         {8, 9, 2.0, 7, 200.0},               // FNc in kN

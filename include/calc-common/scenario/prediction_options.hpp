@@ -61,6 +61,7 @@ struct VARNO_CALC_COMMON_EXPORT jet_prediction_t : engine_source_prediction_t {
     bool jet_option_2 = false;                                                ///< model option
     bool jet_option_3 = false;                                                ///< model option
 
+    /// The record with its defaults.
     jet_prediction_t()
         : engine_source_prediction_t(source_jet) {}
 };
@@ -73,6 +74,7 @@ struct VARNO_CALC_COMMON_EXPORT turbine_prediction_t : engine_source_prediction_
     int turbine_option_2 = 0;                           ///< model option
     bool turbine_option_3 = false;                      ///< model option
 
+    /// The record with its defaults.
     turbine_prediction_t()
         : engine_source_prediction_t(source_turbine) {}
 };
@@ -82,6 +84,7 @@ struct VARNO_CALC_COMMON_EXPORT combustion_prediction_t : engine_source_predicti
     bool combustion_flag = false;                                   ///< model switch
     combustion_method_t combustion_method = combustion_sae_arp876f; ///< combustion model
 
+    /// The record with its defaults.
     combustion_prediction_t()
         : engine_source_prediction_t(source_combustion) {}
 };
@@ -103,18 +106,21 @@ struct VARNO_CALC_COMMON_EXPORT comp_fan_prediction_t : engine_source_prediction
 struct VARNO_CALC_COMMON_EXPORT fwd_fan_prediction_t : comp_fan_prediction_t {
     int fwd_fan_option = 0; ///< forward fan option
 
+    /// The record with its defaults.
     fwd_fan_prediction_t()
         : comp_fan_prediction_t(source_fan_forward) {}
 };
 
 /// Aft fan noise model options.
 struct VARNO_CALC_COMMON_EXPORT aft_fan_prediction_t : comp_fan_prediction_t {
+    /// The record with its defaults.
     aft_fan_prediction_t()
         : comp_fan_prediction_t(source_fan_aft) {}
 };
 
 /// Compressor noise model options.
 struct VARNO_CALC_COMMON_EXPORT compressor_prediction_t : comp_fan_prediction_t {
+    /// The record with its defaults.
     compressor_prediction_t()
         : comp_fan_prediction_t(source_compressor) {}
 };
@@ -124,6 +130,7 @@ struct VARNO_CALC_COMMON_EXPORT bsn_prediction_t : engine_source_prediction_t {
     bsn_method_t bsn_method = bsn_esdu_75020c; ///< buzz-saw treatment
     double bsn_ratio = 1.1;                    ///< model ratio
 
+    /// The record with its defaults.
     bsn_prediction_t()
         : engine_source_prediction_t(source_fan_forward_buzz_saw) {}
 };
@@ -138,6 +145,7 @@ struct VARNO_CALC_COMMON_EXPORT airframe_noise_prediction_t {
 
 /// Slat noise options.
 struct VARNO_CALC_COMMON_EXPORT slats_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     slats_prediction_t()
         : airframe_source_prediction_t(source_slats) {}
 };
@@ -146,36 +154,42 @@ struct VARNO_CALC_COMMON_EXPORT slats_prediction_t : airframe_source_prediction_
 struct VARNO_CALC_COMMON_EXPORT flaps_prediction_t : airframe_source_prediction_t {
     std::set<double> deflections; ///< flap deflections to compute, deg
 
+    /// The record with its defaults.
     flaps_prediction_t()
         : airframe_source_prediction_t(source_flaps) {}
 };
 
 /// Clean wing noise options.
 struct VARNO_CALC_COMMON_EXPORT wing_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     wing_prediction_t()
         : airframe_source_prediction_t(source_clean_wing) {}
 };
 
 /// Empennage noise options.
 struct VARNO_CALC_COMMON_EXPORT empennage_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     empennage_prediction_t()
         : airframe_source_prediction_t(source_empennage) {}
 };
 
 /// Nose landing gear noise options.
 struct VARNO_CALC_COMMON_EXPORT nlg_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     nlg_prediction_t()
         : airframe_source_prediction_t(source_nose_landing_gear) {}
 };
 
 /// Main landing gear noise options.
 struct VARNO_CALC_COMMON_EXPORT mlg_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     mlg_prediction_t()
         : airframe_source_prediction_t(source_main_landing_gear) {}
 };
 
 /// Other (central) landing gear noise options.
 struct VARNO_CALC_COMMON_EXPORT clg_prediction_t : airframe_source_prediction_t {
+    /// The record with its defaults.
     clg_prediction_t()
         : airframe_source_prediction_t(source_other_landing_gear) {}
 };
@@ -184,6 +198,7 @@ struct VARNO_CALC_COMMON_EXPORT clg_prediction_t : airframe_source_prediction_t 
 struct VARNO_CALC_COMMON_EXPORT spoiler_prediction_t : airframe_source_prediction_t {
     std::set<double> deflections; ///< spoiler deflections to compute, deg
 
+    /// The record with its defaults.
     spoiler_prediction_t()
         : airframe_source_prediction_t(source_spoiler) {}
 };
@@ -204,16 +219,19 @@ struct VARNO_CALC_COMMON_EXPORT tonal_airframe_source_prediction_t : airframe_so
 
 /// Inboard cavity tone options.
 struct VARNO_CALC_COMMON_EXPORT cavity_in_prediction_t : tonal_airframe_source_prediction_t {
+    /// The record with its defaults.
     cavity_in_prediction_t();
 };
 
 /// Outboard cavity tone options.
 struct VARNO_CALC_COMMON_EXPORT cavity_out_prediction_t : tonal_airframe_source_prediction_t {
+    /// The record with its defaults.
     cavity_out_prediction_t();
 };
 
 /// Extraneous airframe tone options; both laws are zero until set.
 struct VARNO_CALC_COMMON_EXPORT extraneous_prediction_t : tonal_airframe_source_prediction_t {
+    /// The record with its defaults.
     extraneous_prediction_t();
 };
 
@@ -222,6 +240,7 @@ struct VARNO_CALC_COMMON_EXPORT nai_prediction_t : tonal_airframe_source_predict
     double nai_value_1 = 0.0; ///< model value
     double nai_value_2 = 0.0; ///< model value
 
+    /// The record with its defaults.
     nai_prediction_t();
 };
 
