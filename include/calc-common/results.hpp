@@ -181,7 +181,8 @@ struct VARNO_CALC_COMMON_EXPORT directional_result_noise_t {
     boost::shared_ptr<jet_thermo_params_t> first_jet_params;  ///< jet results only
     boost::shared_ptr<jet_thermo_params_t> second_jet_params; ///< jet results only
 
-    /// A record with no spectra: every spectrum and jet record null, levels 0, option_flag true.
+    /// A record with no spectra: every spectrum and jet record null, levels 0, option_flag true,
+    /// the weight from the type.
     explicit directional_result_noise_t(boost::shared_ptr<result_type_t> type);
 
     /// A record ready to fill: native and total spectra on `first`, the total of the second

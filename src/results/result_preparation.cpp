@@ -98,6 +98,23 @@ struct preparation {
 
     void prepare_engine_source(int index, source_count_t& source_count) const {
         source_t const& source = *aircraft().engine_sources[index];
+        prepare_integrated_engine_source(source, index, source_count);
+
+        // A global pass shares one identity of the whole source between all points.
+        type_ptr const shared_whole =
+            global_pass ? whole_engine_source(source.type, index) : type_ptr();
+        bool const add_global_pass_components =
+            shared_whole && shared_whole->is_global_decomposable_engine_source(simulation.aircraft);
+        for (std::size_t j = 0; j < points().size(); ++j) {
+            prepare_engine_source_at_point(source, index, j, shared_whole,
+                                           add_global_pass_components);
+        }
+    }
+
+    // Globally an engine given as a pseudo-breakdown has no whole source and is not counted;
+    // its total engine source has the breakdown components alone.
+    void prepare_integrated_engine_source(source_t const& source, int index,
+                                          source_count_t& source_count) const {
         auto indicators = boost::make_shared<integrated_engine_source_noise_indicators_t>();
         global().engine_sources[index] = indicators;
         if (!has_pseudo_breakdown(*aircraft().engines[source.engine_index])) {
@@ -113,16 +130,6 @@ struct preparation {
                 indicators->components[component] = integrated(
                     result_type_t::create_engine_source_component(source.type, index, component));
             }
-        }
-
-        // A global pass shares one identity of the whole source between all points.
-        type_ptr const shared_whole =
-            global_pass ? whole_engine_source(source.type, index) : type_ptr();
-        bool const add_global_pass_components =
-            shared_whole && shared_whole->is_global_decomposable_engine_source(simulation.aircraft);
-        for (std::size_t j = 0; j < points().size(); ++j) {
-            prepare_engine_source_at_point(source, index, j, shared_whole,
-                                           add_global_pass_components);
         }
     }
 
@@ -260,4 +267,15 @@ void simulation_t::prepare_integrated_aircraft_results() {
         directional.create(result_type_t::create_genepass(genepass_ground_reflection), ground_range,
                            ground_range, false);
     }
+}
+
+void simulation_t::clear_directional_results() {
+    // A result made for other points is not this run's: it is left as it is.
+    if (!result || result->points.size() != calculation_points.size()) {
+        return;
+    }
+    for (auto const& point : result->points) {
+        point->directional->clear_values();
+    }
+    result->global->clear_values();
 }
