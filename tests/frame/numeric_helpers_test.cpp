@@ -51,3 +51,18 @@ TEST(BandArithmetic, EnergyIsSharedLinearlyAcrossAnEdgeOverlap) {
     // The third-octave Butterworth band of order 3 on base 2.
     EXPECT_NEAR(butterworth_band_q(2.0, 3, 3), 4.522294399688317, 1e-14);
 }
+
+// The exponential and natural-log forms stand in for the powers and decimal logarithms of ten
+// across the range of levels a spectrum holds, to within a few units in the last place of the
+// exponent (which grows with the level).
+TEST(LevelEnergy, FastFormsAgreeWithThePowersOfTen) {
+    for (double level : {-400.0, -3.5, 0.0, 0.1, 1.0, 20.0, 37.25, 94.0, 140.0, 300.0}) {
+        double const energy = std::pow(10.0, level / 10.0);
+        double const allowance = 1e-16 * (4.0 + std::fabs(level));
+        EXPECT_NEAR(VARNO::detail::fast_energy_of_level(level), energy, allowance * energy)
+            << level;
+        EXPECT_NEAR(VARNO::detail::fast_level_of_energy(energy), level, 4.0 * allowance) << level;
+    }
+    EXPECT_EQ(VARNO::detail::fast_energy_of_level(0.0), 1.0);
+    EXPECT_EQ(VARNO::detail::fast_level_of_energy(1.0), 0.0);
+}
