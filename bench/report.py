@@ -75,7 +75,7 @@ def main():
     print("%-46s %12s %12s %7s %7s" % ("kernel", "time", "floor", "ratio", "allocs"))
     for program in sorted(glob.glob(os.path.join(build, "bench", "*_bench"))):
         rows = medians(program, extra)
-        for name, (ns, allocations) in rows.items():
+        for name, (ns, allocations) in sorted(rows.items()):
             if name.endswith("_floor") or "_floor/" in name or name in FLOORS.values():
                 continue
             floor = floor_of(name, rows)
