@@ -128,11 +128,15 @@ struct record_files : ::testing::Test {
         return record;
     }
 
+    // The record's bytes, the same through a file and through a stream.
     bytes_t written(directional_result_noise_t const& record,
                     boost::shared_ptr<simulation_t> const& simulation) const {
         file_ptr file(std::tmpfile());
         record.write(file.get(), simulation);
-        return contents(file.get());
+        std::ostringstream stream(std::ios::binary);
+        record.write(stream, simulation);
+        EXPECT_EQ(stream.str(), contents(file.get()));
+        return stream.str();
     }
 };
 
@@ -148,15 +152,6 @@ TEST_F(record_files, FlagWordFollowsTheSimulationAndFixesTheItems) {
     bytes_t const minimal = written(*record, tsour);
     EXPECT_EQ(minimal, expected_record(*record, 0));
     EXPECT_EQ(minimal.size(), 4u + 8u * 11u + 8u * 24u);
-}
-
-TEST_F(record_files, FileAndStreamGiveTheSameBytes) {
-    noise_ptr const record = filled();
-    for (auto const& simulation : {tsour, nlcp}) {
-        std::ostringstream stream(std::ios::binary);
-        record->write(stream, simulation);
-        EXPECT_EQ(stream.str(), written(*record, simulation));
-    }
 }
 
 TEST_F(record_files, RoundTripRestoresEveryStoredField) {
@@ -226,9 +221,6 @@ TEST(SpectrumFiles, BlocksAreTheLevelsAlone) {
     file_ptr const file(std::tmpfile());
     EXPECT_TRUE(spectrum->write(file.get()));
     EXPECT_EQ(contents(file.get()), expected);
-    std::ostringstream output(std::ios::binary);
-    output << spectrum;
-    EXPECT_EQ(output.str(), expected);
 
     // The grid, not the values held, says how much to read; the tones stay as they are.
     spectrum->values.clear();
