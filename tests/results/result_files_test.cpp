@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -28,13 +27,11 @@ file_ptr file_holding(bytes_t const& bytes) {
     return file;
 }
 
+// Everything written to a file so far (records here stay well below 4 kB).
 bytes_t contents(std::FILE* file) {
-    std::fflush(file);
     std::rewind(file);
-    bytes_t bytes;
-    for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) {
-        bytes.push_back(static_cast<char>(c));
-    }
+    bytes_t bytes(4096, '\0');
+    bytes.resize(std::fread(&bytes[0], 1, bytes.size(), file));
     return bytes;
 }
 
