@@ -53,9 +53,8 @@ std::vector<double> filled(std::vector<double> levels) {
 } // namespace
 
 TEST(SlopeLocator, ABandAboveTheMeanOfItsNeighboursIsATone) {
-    EXPECT_EQ(slope_located(std::vector<double>(24, 50.0)).broadband,
-              std::vector<double>(24, 50.0));
-    // The last band must rise a full decibel; band 0 is never a tone.
+    // A rise within rounding noise is flat; the last band must rise a full decibel; band 0 is
+    // never a tone.
     struct row {
         std::size_t band;
         double peak;
