@@ -164,6 +164,10 @@ void filter_bank_conversion::add_band_energy(acoustics::OctaveBandFilterBank con
 void filter_bank_conversion::add_filtered_energy(acoustics::OctaveBandFilterBank const& bank,
                                                  acoustics::OctaveBandFilter const& filter,
                                                  filter_bank_shape shape, double* energies) const {
+    if (columns_ == 0) {
+        // A field without columns has no energies to gather.
+        return;
+    }
     line_span const lines = lines_reaching(filter, shape);
     double const* responses = shape == filter_bank_butterworth && scratch_.responses_grid.regular
                                   ? butterworth_responses(bank, filter)
@@ -229,6 +233,10 @@ filter_bank_conversion::lines_reaching(acoustics::OctaveBandFilter const& filter
     // edges, so that each band visits its own lines only.
     if (shape == filter_bank_butterworth || !(range_.df > 0.0)) {
         return {0, range_.count};
+    }
+    if (std::isnan(range_.f_start)) {
+        // A grid that starts at no number places its lines on no band.
+        return {0, 0};
     }
     auto line_near = [this](double frequency) {
         double const steps = std::floor((frequency - range_.f_start) / range_.df);

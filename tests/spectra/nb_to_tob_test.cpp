@@ -126,3 +126,24 @@ TEST(NbToTob, RepeatedCallsMatchTheFirstAndAllocateNothing) {
     }
     EXPECT_EQ(counter.count(), 0u);
 }
+
+// Inputs found by fuzzing: a field without columns, and a regular grid whose first line is not
+// a number. Neither may reach an undefined conversion or read; the grid of no number is silent.
+TEST(NbToTob, DegenerateInputsStaySilent) {
+    auto const no_columns = boost::make_shared<noise_field_column_range_t>();
+    auto const field = boost::make_shared<noise_field_t>(
+        frequency_range_t::create_nb(10.0, 20000.0, 10.0), no_columns);
+    auto const field_out = noise_field_t::create_tob(no_columns);
+    auto const nowhere = frequency_range_t::create_nb(10.0, 20000.0, 10.0);
+    nowhere->f_start = std::nan("");
+    auto const input = boost::make_shared<spectrum_t>(nowhere);
+    input->fill_with(60.0);
+    for (nbtob_conversion_method const method : {nbtob_line_band, nbtob_width_overlap}) {
+        VARNO::TrrApi::NbToTob(field, field_out, method);
+        EXPECT_TRUE(field_out->values.empty());
+        auto const output = filtered(input, method);
+        for (double const level : output->values) {
+            EXPECT_EQ(level, 0.0);
+        }
+    }
+}
