@@ -11,6 +11,8 @@
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
+#include <cstdio>
+#include <iosfwd>
 #include <vector>
 
 /// The ordered frequencies (Hz) on which a spectrum lives. A range is first of all an identity:
@@ -167,7 +169,22 @@ struct VARNO_CALC_COMMON_EXPORT spectrum_t {
 
     /// Replaces the shared range by a private copy, once.
     void give_frequency_range_ownership();
+
+    /// Appends the levels to a file as one block of 8-byte doubles, nothing else (no grid, no
+    /// tones). False when the block was not written, which includes an empty spectrum.
+    bool write(std::FILE* file) const;
+    /// Reads one block of levels in place, as many as the grid has frequencies. False when the
+    /// block was not all there, which includes an empty grid. The tones are left alone.
+    bool read(std::FILE* file);
 };
+
+/// Writes the levels to a binary stream as 8-byte doubles, one by one (not a null pointer).
+VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& stream,
+                                                  boost::shared_ptr<spectrum_t> spectrum);
+/// Reads as many levels as the grid has frequencies from a binary stream; nothing for a null
+/// pointer. The stream's state tells failure.
+VARNO_CALC_COMMON_EXPORT void operator>>(std::istream& stream,
+                                         boost::shared_ptr<spectrum_t> spectrum);
 
 /// The directivity axis of a noise field: one entry per column in each of three parallel lists.
 struct VARNO_CALC_COMMON_EXPORT noise_field_column_range_t {

@@ -4,6 +4,16 @@
 
 #include <boost/make_shared.hpp>
 
+namespace {
+
+// Everything goes to zero, value_6 with it: its starting 1.0 belongs to a new point only.
+void zero_directional_state(directional_calculation_point_t& state) {
+    state = directional_calculation_point_t();
+    state.value_6 = 0.0;
+}
+
+} // namespace
+
 omnidir_calculation_point_t::omnidir_calculation_point_t(boost::shared_ptr<aircraft_t> aircraft)
     : first_ambient(boost::make_shared<ambient_conditions_t>())
     , second_ambient(boost::make_shared<ambient_conditions_t>()) {
@@ -12,12 +22,6 @@ omnidir_calculation_point_t::omnidir_calculation_point_t(boost::shared_ptr<aircr
     for (std::size_t engine = 0; engine < aircraft->engines.size(); ++engine) {
         engine_ratings.push_back(boost::make_shared<engine_rating_t>());
     }
-}
-
-void directional_calculation_point_t::clear() {
-    // Everything goes to zero, value_6 with it: its starting 1.0 belongs to a new point only.
-    *this = directional_calculation_point_t();
-    value_6 = 0.0;
 }
 
 calculation_point_t::calculation_point_t(boost::shared_ptr<aircraft_t> aircraft, int index)
@@ -50,7 +54,7 @@ bool simulation_t::move_to_next_direction() {
         return false;
     }
     for (auto const& point : calculation_points) {
-        point->directional->clear();
+        zero_directional_state(*point->directional);
     }
     // Result half of the step, to be called here: clear_directional_results() clears the
     // result tree in place when it has one point per calculation point.

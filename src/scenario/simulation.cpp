@@ -6,25 +6,33 @@
 
 #include <cmath>
 
+namespace {
+
+// A new simulation of `aircraft` for a calculation of `type`, not yet stepping directions.
+boost::shared_ptr<simulation_t> new_simulation(boost::shared_ptr<aircraft_t> aircraft,
+                                               calculation_type_t type) {
+    auto simulation = boost::make_shared<simulation_t>();
+    simulation->aircraft = std::move(aircraft);
+    simulation->calculation_type = type;
+    simulation->direction_index = -1;
+    return simulation;
+}
+
+} // namespace
+
 boost::shared_ptr<simulation_t>
 simulation_t::create_tsour(boost::shared_ptr<aircraft_t> aircraft,
                            boost::shared_ptr<tsour_calculation_t> tsour) {
-    auto simulation = boost::make_shared<simulation_t>();
-    simulation->aircraft = std::move(aircraft);
+    auto simulation = new_simulation(std::move(aircraft), calculation_noise_sources);
     simulation->tsour = std::move(tsour);
-    simulation->calculation_type = calculation_noise_sources;
-    simulation->direction_index = -1;
     return simulation;
 }
 
 boost::shared_ptr<simulation_t>
 simulation_t::create_nlcp(boost::shared_ptr<aircraft_t> aircraft,
                           boost::shared_ptr<nlcp_calculation_t> nlcp) {
-    auto simulation = boost::make_shared<simulation_t>();
-    simulation->aircraft = std::move(aircraft);
+    auto simulation = new_simulation(std::move(aircraft), calculation_integrated_aircraft_noise);
     simulation->nlcp = std::move(nlcp);
-    simulation->calculation_type = calculation_integrated_aircraft_noise;
-    simulation->direction_index = -1;
     return simulation;
 }
 

@@ -1,6 +1,6 @@
 // A user of the installed package: two spectra added by energy, the library's exception caught
-// by its type when the grids differ, a small scenario built and stepped through directions, and
-// one record written to the shared log.
+// by its type when the grids differ, a small scenario built and stepped through directions, a
+// result tree prepared and one record written to a file, and one record written to the shared log.
 #include <calc-common/calc-common.hpp>
 
 #include <boost/make_shared.hpp>
@@ -53,10 +53,34 @@ bool build_scenario() {
     return stepped && refused && defaults;
 }
 
+// Prepares the results of a jet on one point and writes its record: a flag word, 17 levels, five
+// third-octave blocks and three marked ones (1 + 24 * 8 bytes each).
+bool write_result_record() {
+    environment_t environment;
+    auto const aircraft = environment.add_aircraft();
+    aircraft->engine_sources.push_back(boost::make_shared<source_t>(source_jet));
+    auto const simulation =
+        environment.add_tsour_simulation(aircraft, environment.add_tsour_calculation());
+    simulation->create_calculation_points(1);
+    range_provider_t third_octave_bands = [](boost::shared_ptr<source_noise_t>, std::size_t) {
+        return boost::shared_ptr<frequency_range_t>();
+    };
+    simulation->prepare_noise_sources_results(third_octave_bands);
+
+    auto const jet = simulation->result->points[0]->directional->find(
+        result_type_t::create_engine_source(source_jet, 0, true, component_broadband_noise));
+    std::FILE* file = std::tmpfile();
+    jet->write(file, simulation);
+    long const size = std::ftell(file);
+    std::fclose(file);
+    std::printf("%s record: %ld bytes\n", jet->type->to_string(simulation).c_str(), size);
+    return size == 4 + 8 * 17 + 5 * 192 + 3 * 193;
+}
+
 } // namespace
 
 int main() {
-    if (!build_scenario() || !log_record_reaches_file()) {
+    if (!build_scenario() || !log_record_reaches_file() || !write_result_record()) {
         return 1;
     }
     boost::shared_ptr<spectrum_t> a = spectrum_t::create_tob();

@@ -380,9 +380,9 @@ struct VARNO_CALC_COMMON_EXPORT aero_data_t {
 
 /// One engine power setting parameter, in its stored unit.
 struct VARNO_CALC_COMMON_EXPORT power_management_parameter_t {
-    power_management_parameter_type_t type; ///< which parameter
-    double value;                           ///< its value, in `unit`
-    power_management_parameter_unit_t unit; ///< the unit of `value`
+    power_management_parameter_type_t type{}; ///< which parameter
+    double value = 0.0;                       ///< its value, in `unit`
+    power_management_parameter_unit_t unit{}; ///< the unit of `value`
 };
 
 /// Key of a power setting parameter: the parameter and the unit it is stored in.

@@ -171,9 +171,6 @@ struct VARNO_CALC_COMMON_EXPORT directional_calculation_point_t {
     double value_20 = 0.0; ///< direction value
     double value_21 = 0.0; ///< direction value
     double value_22 = 0.0; ///< direction value
-
-    /// Sets every value to zero, value_6 included, ready for the next direction.
-    void clear();
 };
 
 /// One instant of a simulation: a point of the trajectory with its two parts.

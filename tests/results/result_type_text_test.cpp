@@ -1,0 +1,180 @@
+#include <calc-common/results.hpp>
+#include <calc-common/scenario.hpp>
+
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using result_ptr = boost::shared_ptr<result_type_t>;
+
+source_type_t source(int value) {
+    return static_cast<source_type_t>(value);
+}
+
+noise_component_t component(int value) {
+    return static_cast<noise_component_t>(value);
+}
+
+// A simulation whose engine source i and airframe source i have type i and 12 + i. Results are
+// created with type 4 throughout: only the aircraft's own source decides.
+boost::shared_ptr<simulation_t> simulation_with_every_source() {
+    auto aircraft = boost::make_shared<aircraft_t>();
+    for (int type = 0; type < 12; ++type) {
+        aircraft->engine_sources.push_back(boost::make_shared<source_t>(source(type)));
+        aircraft->airframe_sources.push_back(boost::make_shared<source_t>(source(type + 12)));
+    }
+    auto simulation = boost::make_shared<simulation_t>();
+    simulation->aircraft = aircraft;
+    return simulation;
+}
+
+std::vector<std::string> split(std::string const& joined) {
+    std::vector<std::string> parts;
+    std::istringstream stream(joined);
+    for (std::string part; std::getline(stream, part, '|');) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
+result_ptr engine(int index, int part) {
+    return part < 0
+               ? result_type_t::create_engine_source(source(4), index, true, component(0))
+               : result_type_t::create_engine_source_component(source(4), index, component(part));
+}
+
+} // namespace
+
+TEST(ResultTypeText, EngineSourcesByTypeAndComponent) {
+    struct row {
+        int type;
+        int part; // -1: whole source
+        char const* text;
+    };
+    std::vector<row> const rows = {
+        {0, -1, "Jet"},
+        {0, 5, "Jet"},
+        {1, -1, "Turbine"},
+        {1, 1, "Turbine - broadband"},
+        {1, 5, "Turbine - tones"},
+        {2, 9, "Combustion"},
+        {3, -1, "Fan forward"},
+        {3, 1, "Fan forward - broadband"},
+        {3, 2, "Fan forward - buzz-saw"},
+        {3, 5, "Fan forward - interaction tones"},
+        {3, 4, "unknown"},
+        {4, -1, "unknown"},
+        {5, -1, "Fan aft"},
+        {5, 1, "Fan aft - broadband"},
+        {5, 5, "Fan aft - interaction tones"},
+        {6, 1, "Residual"},
+        {7, -1, "Total engine, propeller(s) excluded"},
+        {8, -1, "Propeller"},
+        {8, 1, "Propeller - broadband"},
+        {8, 5, "Propeller - tones"},
+        {9, -1, "CROR propellers"},
+        {9, 1, "CROR propellers - broadband"},
+        {9, 6, "CROR forward propeller tones"},
+        {9, 7, "CROR aft propeller tones"},
+        {9, 8, "CROR propellers - interaction tones"},
+        {10, -1, "Compressor"},
+        {10, 1, "Compressor - broadband"},
+        {10, 5, "Compressor - tones"},
+        {11, -1, "Total engine (pseudo-breakdown input)"},
+        {11, 3, "Jet"},
+        {11, 4, "Residual"},
+        {11, 5, "Total engine tones (pseudo-breakdown output)"},
+    };
+    auto const simulation = simulation_with_every_source();
+    for (row const& r : rows) {
+        EXPECT_EQ(engine(r.type, r.part)->to_string(simulation), r.text) << r.type << "/" << r.part;
+    }
+}
+
+TEST(ResultTypeText, AirframeSourcesAndTotalsBySourceType) {
+    // By source type: airframe texts from 12 on, totals from 0 to 24.
+    std::vector<std::string> const airframe = split(
+        "Slats|Flaps|Clean wing|Empennage|Nose landing gear|Main landing gear|Other landing gear|"
+        "Inboard cavity|Outboard cavity|Extraneous airframe source|NAI|Spoiler");
+    std::vector<std::string> const totals =
+        split("Jet (total)|Turbine (total)|Combustion (total)|Fan forward (total)|unknown|"
+              "Fan aft (total)|Residual (total)|Total engine, propeller(s) excluded (total)|"
+              "Propeller (total)|CROR propellers (total)|Compressor (total)|unknown|Slats (total)|"
+              "Flaps (total)|Wing (total)|Empennage (total)|Nose landing gear (total)|"
+              "Main landing gear (total)|Central landing gear (total)|Inboard cavity (total)|"
+              "Outboard cavity (total)|Extraneous (total)|NAI (total)|Spoiler (total)|unknown");
+    auto const simulation = simulation_with_every_source();
+    for (int i = 0; i < 12; ++i) {
+        EXPECT_EQ(result_type_t::create_airframe_source(source(0), i)->to_string(simulation),
+                  airframe[i]);
+    }
+    // Engine types on the airframe list have no airframe text.
+    simulation->aircraft->airframe_sources[0]->type = source(3);
+    EXPECT_EQ(result_type_t::create_airframe_source(source(12), 0)->to_string(simulation),
+              "unknown");
+    for (int type = 0; type < 25; ++type) {
+        EXPECT_EQ(result_type_t::create_total_by_source_type(source(type))->to_string(nullptr),
+                  totals[type]);
+    }
+}
+
+TEST(ResultTypeText, TotalsGenePassAndUnknownNeedNoSimulation) {
+    std::vector<std::pair<result_ptr, char const*>> const rows = {
+        {result_type_t::create_total_engine(), "Total engine"},
+        {result_type_t::create_total_airfoil(), "Airfoil"},
+        {result_type_t::create_total_landing_gear(), "Total landing gear"},
+        {result_type_t::create_total_airframe(), "Total airframe"},
+        {result_type_t::create_total_aircraft(), "Total aircraft"},
+        {result_type_t::create_total_engine_data(3), "Engine"},
+        {result_type_t::create_genepass(genepass_total_aircraft_broadband),
+         "Total aircraft - broadband"},
+        {result_type_t::create_genepass(genepass_total_aircraft_tones), "Total aircraft - tones"},
+        {result_type_t::create_genepass(genepass_ground_reflection), "Ground reflection"},
+        {result_type_t::create_genepass(static_cast<genepass_result_type_t>(3)), "unknown"},
+        {boost::make_shared<result_type_t>(), "unknown"},
+    };
+    for (auto const& row : rows) {
+        EXPECT_EQ(row.first->to_string(nullptr), row.second);
+    }
+}
+
+TEST(ResultTypeQueries, ClassesFollowTheAircraftsSource) {
+    auto const simulation = simulation_with_every_source();
+    auto const aircraft = simulation->aircraft;
+    struct row {
+        result_ptr type;
+        bool broadband_source, cror, decomposable, pure_broadband, pure_tones, mixed;
+    };
+    std::vector<row> const rows = {
+        {engine(0, -1), true, false, false, true, false, false},
+        {engine(2, 1), false, false, false, true, false, false}, // broadband by component
+        {result_type_t::create_engine_source(source(4), 1, true, component(7)), false, false, true,
+         false, true, true}, // a whole source still answers by its component
+        {engine(1, 5), false, false, false, false, true, false},
+        {engine(3, 9), false, false, false, false, true, false}, // haystack
+        {engine(9, 6), false, true, false, false, true, false},  // CROR component
+        {engine(9, -1), false, true, true, false, false, true},
+        {engine(4, -1), false, false, false, false, false, false},
+        {result_type_t::create_airframe_source(source(0), 3), false, false, false, true, false,
+         false},
+        {result_type_t::create_total_aircraft(), false, false, false, false, false, true},
+        {result_type_t::create_total_engine(), false, false, false, false, false, false},
+        {result_type_t::create_genepass(genepass_total_aircraft_tones), false, false, false, false,
+         false, false},
+    };
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        row const& r = rows[i];
+        EXPECT_EQ(r.type->is_broadband_engine_source(simulation), r.broadband_source) << i;
+        EXPECT_FALSE(r.type->is_tonal_engine_source(simulation)) << i;
+        EXPECT_EQ(r.type->is_cror_engine_source(simulation), r.cror) << i;
+        EXPECT_EQ(r.type->is_global_decomposable_engine_source(aircraft), r.decomposable) << i;
+        EXPECT_EQ(r.type->is_pure_broadband(simulation), r.pure_broadband) << i;
+        EXPECT_EQ(r.type->is_pure_tones(simulation), r.pure_tones) << i;
+        EXPECT_EQ(r.type->is_mixed_broadband_tones(aircraft), r.mixed) << i;
+    }
+}
