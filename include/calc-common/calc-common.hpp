@@ -6,6 +6,7 @@
 #include <calc-common/LogFileWriter>
 #include <calc-common/frame.hpp>
 #include <calc-common/geometry.hpp>
+#include <calc-common/metrics.hpp>
 #include <calc-common/numerics.hpp>
 #include <calc-common/propagation.hpp>
 #include <calc-common/results.hpp>

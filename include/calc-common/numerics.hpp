@@ -47,7 +47,7 @@ VARNO_CALC_COMMON_EXPORT double Calc_AngularInterp_Linear(double const* angles,
                                                           bool extrapolate);
 
 /// Directivity table lookup with the Akima curve of Calc_ParabolicInterp at one angle (degrees).
-/// Keeps a shared workspace in static storage: not reentrant, calls must be serialised.
+/// Keeps its workspace per thread: threads may call it at once.
 VARNO_CALC_COMMON_EXPORT double Calc_AngularInterp_Parabolic(double const* angles,
                                                              double const* values,
                                                              std::size_t const& n,
@@ -177,8 +177,8 @@ namespace VARNO {
 
 /// A smoothing cubic spline fitted to a table (Dierckx's algorithm): the spline with the fewest
 /// knots whose sum of squared residuals over the table is within 0.1 % of the smoothing factor.
-/// Copies share the knot and coefficient arrays. The fit and the evaluators keep scratch state
-/// that is not reentrant: serialise all calls, also on different objects.
+/// Copies share the knot and coefficient arrays. The fit and the evaluators keep no state between
+/// calls: threads may fit and evaluate at once, evaluating one spline included.
 class VARNO_CALC_COMMON_EXPORT BSpline {
 public:
     /// Fits the spline to `count` points (x[i], y[i]) whose abscissas strictly increase, with

@@ -21,11 +21,8 @@ struct VARNO_CALC_COMMON_EXPORT ambient_conditions_t {
     double value_3 = 0.0;           ///< kept for the calculation libraries; not read here
 };
 
-// The ground model of the reflection is chosen by the transposition options; they come with this
-// header so that a caller of the ground reflection has everything it needs. Included after the
-// air record, and the options declared ahead, so that the two headers may include each other.
-#include <calc-common/scenario.hpp>
-
+// The ground model of the reflection is chosen by the transposition options, which
+// <calc-common/scenario.hpp> defines.
 struct common_all_sources_transposition_t;
 
 namespace VARNO {
@@ -65,7 +62,8 @@ VARNO_CALC_COMMON_EXPORT double SphericalDivergence(double const& distance,
 /// receives the phase of the reflection coefficient (rad) and `*delay` the delay of the
 /// reflected ray (ms). A source within 1 m, or paths of equal length, give +6 dB everywhere and
 /// leave `phase` and `*delay` alone. Throws varno_calc_error for a method outside 0 to 7.
-/// Keeps working storage in statics between calls: not reentrant.
+/// Keeps working storage per thread between calls: threads may call it at once on separate
+/// outputs.
 VARNO_CALC_COMMON_EXPORT void
 Calc_GroundReflectionEffect(boost::shared_ptr<common_all_sources_transposition_t> options,
                             boost::shared_ptr<ambient_conditions_t> ambient, double direct_distance,

@@ -7,8 +7,8 @@
 /// 0.0 means no sound. Output spectra are supplied by the caller on the grid of the input and are
 /// never resized.
 ///
-/// The locators, the separation drivers and Calc_DopplerizeTone keep scratch storage in statics:
-/// they are not reentrant, and calls to them must be serialised.
+/// The locators, the separation drivers and Calc_DopplerizeTone keep scratch storage per thread:
+/// threads may call them at once on separate outputs.
 
 #include <calc-common/export.hpp>
 #include <calc-common/spectra.hpp>

@@ -5,15 +5,7 @@
 
 #include <cmath>
 
-using VARNO::detail::aircraft_axes;
-using VARNO::detail::degrees_to_radians;
-using VARNO::detail::line_of_sight;
-using VARNO::detail::pi;
-using VARNO::detail::radians_to_degrees;
-using VARNO::detail::tolerantly_at_least;
-using VARNO::detail::tolerantly_at_most;
-using VARNO::detail::tolerantly_below;
-using VARNO::detail::vector3;
+using namespace VARNO::detail;
 
 namespace {
 
@@ -52,10 +44,10 @@ double Calc_AzimuthAngle(double const& source_x, double const& source_y, double 
 
     double const ca = std::cos(plane_angle * degrees_to_radians);
     double const sa = std::sin(plane_angle * degrees_to_radians);
-    vector3 const in_plane = VARNO::detail::combine(sa, forward, ca, lower);
+    vector3 const in_plane = combine(sa, forward, ca, lower);
     vector3 const d{observer_x - source_x, observer_y - source_y, observer_z - source_z};
-    double const u = VARNO::detail::dot(d, lateral);
-    double const v = VARNO::detail::dot(d, in_plane);
+    double const u = dot(d, lateral);
+    double const v = dot(d, in_plane);
     return 90.0 - std::acos(u / std::hypot(u, v)) * radians_to_degrees;
 }
 
@@ -64,7 +56,7 @@ void Calc_DopplerAngle(double pitch, double heading, double roll, double attack,
                        double observer_z, double observer_height, double* angle) {
     vector3 const d = line_of_sight(source_x, source_y, source_z, observer_x, observer_y,
                                     observer_z, observer_height);
-    double const distance = VARNO::detail::length(d);
+    double const distance = length(d);
     // A distance on the threshold already counts as coincident here; a not-a-number distance
     // does not, and runs through to the result.
     if (tolerantly_at_most(distance, coincidence_length)) {
@@ -72,7 +64,7 @@ void Calc_DopplerAngle(double pitch, double heading, double roll, double attack,
         return;
     }
     vector3 const flight = aircraft_axes(pitch, heading, roll).turned_towards_lower(attack);
-    *angle = aligned_acos(VARNO::detail::dot(flight, d) / distance);
+    *angle = aligned_acos(dot(flight, d) / distance);
 }
 
 void Calc_ElevationAngle(double source_z, double observer_z, double observer_height,
@@ -90,13 +82,13 @@ void Calc_EmissionAngle(double pitch, double path_angle, double heading, double 
                         double* angle_to_body) {
     vector3 const d = line_of_sight(source_x, source_y, source_z, observer_x, observer_y,
                                     observer_z, observer_height);
-    double const distance = VARNO::detail::length(d);
+    double const distance = length(d);
     // Unlike the Doppler angle, a distance on the threshold is still measured.
     if (tolerantly_below(distance, coincidence_length)) {
         *angle = 90.0;
     } else {
         vector3 const axis = aircraft_axes(pitch, heading, roll).turned_towards_lower(-axis_angle);
-        *angle = aligned_acos(VARNO::detail::dot(axis, d) / distance) * radians_to_degrees;
+        *angle = aligned_acos(dot(axis, d) / distance) * radians_to_degrees;
     }
     *angle_to_path = *angle - pitch + path_angle - axis_angle;
     *angle_to_body = *angle - axis_angle;

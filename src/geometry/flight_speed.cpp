@@ -4,20 +4,19 @@
 
 #include <cmath>
 
-using VARNO::detail::tolerantly_above;
+using namespace VARNO::detail;
 
 namespace {
 
-// Standard troposphere with a linear lapse. The gas constant is the rounded one of the flight
-// manuals, deliberately not the finer one of the impact-angle geometry.
+// Standard troposphere with a linear lapse, and the speed of sound of the flight manuals.
 constexpr double sea_level_temperature = 288.15; // K
 constexpr double sea_level_pressure = 101325.0;  // Pa
 constexpr double lapse_rate = -0.0065;           // K/m
 constexpr double gravity = 9.81;                 // m/s2
 constexpr double gas_constant = 287.05;          // J/(kg K)
-constexpr double gamma_gas_constant = 401.87;    // 1.4 * 287.05, so a^2 = 401.87 T
-constexpr double sea_level_sound_speed_squared = 115798.84049999999; // 401.87 * 288.15
-constexpr double knot = 0.5144;                                      // m/s
+constexpr double sea_level_sound_speed_squared =
+    flight_gamma_gas_constant * sea_level_temperature; // m2/s2
+constexpr double knot = 0.5144;                        // m/s
 
 // gamma/(gamma - 1) and its inverse for gamma = 1.4, as double arithmetic gives them.
 constexpr double pressure_exponent = 3.4999999999999996;
@@ -27,12 +26,11 @@ constexpr double inverse_pressure_exponent = 0.28571428571428575;
 constexpr double altitude_convergence = 0.1; // m
 
 double speed_of_sound(double temperature) {
-    return std::sqrt(temperature * gamma_gas_constant);
+    return std::sqrt(temperature * flight_gamma_gas_constant);
 }
 
 bool is_missing(double speed) {
-    return VARNO::detail::tolerantly_at_most(speed, 0.0) &&
-           VARNO::detail::tolerantly_at_least(speed, 0.0);
+    return tolerantly_at_most(speed, 0.0) && tolerantly_at_least(speed, 0.0);
 }
 
 } // namespace

@@ -6,18 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
-using VARNO::detail::tolerantly_above;
-using VARNO::detail::tolerantly_at_least;
-using VARNO::detail::tolerantly_at_most;
-using VARNO::detail::tolerantly_below;
-using VARNO::detail::vector3;
+using namespace VARNO::detail;
 
 namespace {
-
-// Speed of sound in dry air from its temperature: ratio of specific heats 1.4 and this gas
-// constant (J/(kg K)), which is finer than the one of the flight-speed relations.
-constexpr double heat_capacity_ratio = 1.4;
-constexpr double impact_gas_constant = 287.0530720470647;
 
 // Squared speeds of sound and quadratic coefficients at or below this count as zero.
 constexpr double negligible = 1e-9;
@@ -46,7 +37,7 @@ int Calc_ImpactAngle(double temperature, double wave_radius, double mach, double
                      double heading, double roll, double attack, double source_x, double source_y,
                      double source_z, double observer_x, double observer_y, double observer_offset,
                      double observer_z, double* elevation, double* delay, double* distance) {
-    double const c2 = heat_capacity_ratio * impact_gas_constant * temperature;
+    double const c2 = impact_heat_capacity_ratio * impact_gas_constant * temperature;
     double const c = std::sqrt(c2);
     double const dx = observer_x - source_x;
     double const dy = observer_y - source_y;
@@ -64,8 +55,8 @@ int Calc_ImpactAngle(double temperature, double wave_radius, double mach, double
     // The source flew straight at constant speed: find the time t back along its line such that
     // a sound emitted there has travelled the wave radius plus c*t to the observer,
     // A t^2 + 2 B t + K = 0.
-    vector3 const velocity = VARNO::detail::scaled(
-        mach * c, VARNO::detail::aircraft_axes(pitch, heading, roll).turned_towards_lower(attack));
+    vector3 const velocity =
+        scaled(mach * c, aircraft_axes(pitch, heading, roll).turned_towards_lower(attack));
     double const a =
         velocity.x * velocity.x + velocity.y * velocity.y + velocity.z * velocity.z - c2;
     double const b = velocity.y * dy + velocity.x * dx - velocity.z * dz - (wave_radius / c) * c2;
@@ -91,6 +82,6 @@ int Calc_ImpactAngle(double temperature, double wave_radius, double mach, double
     } else if (tolerantly_above(s, 1.0)) {
         s = 1.0;
     }
-    *elevation = std::asin(s) * VARNO::detail::radians_to_degrees;
+    *elevation = std::asin(s) * radians_to_degrees;
     return 0;
 }

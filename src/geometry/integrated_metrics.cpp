@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+using namespace VARNO::detail;
+
 namespace {
 
 constexpr double half_step = 0.5;
@@ -61,8 +63,7 @@ void extrapIntegratedMetrics(double const& start_distance, double const& speed,
                              double const& start_level, double const& stop_level, bool ratio_form,
                              double* energy) {
     *energy = 0.0;
-    if (VARNO::detail::tolerantly_at_most(speed, 0.0) ||
-        !VARNO::detail::tolerantly_above(start_level, stop_level)) {
+    if (tolerantly_at_most(speed, 0.0) || !tolerantly_above(start_level, stop_level)) {
         return;
     }
     double t = 0.0;
@@ -73,8 +74,8 @@ void extrapIntegratedMetrics(double const& start_distance, double const& speed,
         double const level = ratio_form ? 20 * std::log10(start_distance / distance) + start_level
                                         : start_level - 20 * std::log10(distance / start_distance);
         // Every sample carries its energy, however faint: no cut applies to this sum.
-        *energy += std::pow(10.0, level / 10) * half_step;
-        if (!VARNO::detail::tolerantly_above(level, stop_level)) {
+        *energy += energy_of_level(level) * half_step;
+        if (!tolerantly_above(level, stop_level)) {
             return;
         }
     }

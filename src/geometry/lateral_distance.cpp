@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-using VARNO::detail::vector3;
+using namespace VARNO::detail;
 
 namespace {
 
@@ -50,13 +50,12 @@ void Calc_LateralDistance(double pitch, double heading, double roll, double atta
                           double observer_z, double observer_height,
                           _lateral_distance_inex_data_t inex, double* lateral_distance,
                           double* least_distance) {
-    vector3 const flight =
-        VARNO::detail::aircraft_axes(pitch, heading, roll).turned_towards_lower(attack);
+    vector3 const flight = aircraft_axes(pitch, heading, roll).turned_towards_lower(attack);
     vector3 const source{source_x, source_y, source_z};
     vector3 const ear{observer_x, observer_y, observer_z + observer_height};
     double const along_ground = (ear.x - source.x) * flight.x + (ear.y - source.y) * flight.y;
     double const horizontal_squared = flight.y * flight.y + flight.x * flight.x;
-    if (VARNO::detail::tolerantly_below(std::fabs(horizontal_squared), vertical_line_limit)) {
+    if (tolerantly_below(std::fabs(horizontal_squared), vertical_line_limit)) {
         *lateral_distance = 0.0;
         *least_distance = 0.0;
         return;
@@ -67,6 +66,6 @@ void Calc_LateralDistance(double pitch, double heading, double roll, double atta
             ? foot_points{inex.point_x, inex.point_y, {inex.point_x, inex.point_y, inex.point_z}}
             : on_flight_line(flight, source, ear, along_ground, horizontal_squared);
     *lateral_distance = std::hypot(ear.x - foot.ground_x, ear.y - foot.ground_y);
-    *least_distance = VARNO::detail::length(
-        {ear.x - foot.spatial.x, ear.y - foot.spatial.y, ear.z - foot.spatial.z});
+    *least_distance =
+        length({ear.x - foot.spatial.x, ear.y - foot.spatial.y, ear.z - foot.spatial.z});
 }

@@ -6,8 +6,7 @@
 
 #include <utility>
 
-using VARNO::detail::tolerantly_above;
-using VARNO::detail::tolerantly_at_least;
+using namespace VARNO::detail;
 
 double Calc_AngularInterp_Linear(double const* angles, double const* values, std::size_t const& n,
                                  double const& angle, bool /*extrapolate*/) {
@@ -29,11 +28,10 @@ double Calc_AngularInterp_Linear(double const* angles, double const* values, std
 
 double Calc_AngularInterp_Parabolic(double const* angles, double const* values,
                                     std::size_t const& n, double const& angle, bool extrapolate) {
-    // One workspace for every call, grown to the largest table seen and never shrunk, so that a
-    // directivity lookup allocates nothing in the steady state. This makes the function
-    // non-reentrant.
-    static std::vector<double> slopes(32);
-    static double unused_derivative;
+    // One workspace per thread, grown to the largest table seen and never shrunk, so that a
+    // directivity lookup allocates nothing in the steady state.
+    thread_local std::vector<double> slopes(32);
+    double unused_derivative = 0.0;
     if (slopes.size() < n) {
         slopes.resize(n);
     }

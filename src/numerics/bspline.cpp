@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+using namespace VARNO::detail;
+
 namespace VARNO {
 namespace {
 
@@ -67,29 +69,27 @@ BSpline::BSpline(double const* x, double const* y, int const& count, double cons
     double const xe = count > 0 ? x[count - 1] : 0.0;
     double fp = 0.0;
     int ier = 0;
-    detail::curfit(0, count, x, y, weights.data(), xb, xe, cubic, smoothing_factor, nest,
-                   knot_count, knots.get(), coefficients.get(), fp, wrk.data(), lwrk, iwrk.data(),
-                   ier);
+    curfit(0, count, x, y, weights.data(), xb, xe, cubic, smoothing_factor, nest, knot_count,
+           knots.get(), coefficients.get(), fp, wrk.data(), lwrk, iwrk.data(), ier);
     throw_on_fit_code(ier);
 }
 
 void BSpline::evaluate(double const* x, double* y, int const& count) const {
     int ier = 0;
-    detail::splev(knots.get(), knot_count, coefficients.get(), cubic, x, y, count, ier);
+    splev(knots.get(), knot_count, coefficients.get(), cubic, x, y, count, ier);
     throw_on_evaluation_code(ier);
 }
 
 void BSpline::getDerivative(int const& order, double const* x, double* y, int const& count) const {
     std::vector<double> wrk(array_size(knot_count));
     int ier = 0;
-    detail::splder(knots.get(), knot_count, coefficients.get(), cubic, order, x, y, count,
-                   wrk.data(), ier);
+    splder(knots.get(), knot_count, coefficients.get(), cubic, order, x, y, count, wrk.data(), ier);
     throw_on_evaluation_code(ier);
 }
 
 void BSpline::getAllDerivatives(double const& x, double* derivatives) const {
     int ier = 0;
-    detail::spalde(knots.get(), knot_count, coefficients.get(), cubic + 1, x, derivatives, ier);
+    spalde(knots.get(), knot_count, coefficients.get(), cubic + 1, x, derivatives, ier);
     throw_on_evaluation_code(ier);
 }
 

@@ -2,7 +2,7 @@
 
 #include "frame/numeric_helpers.hpp"
 
-using VARNO::detail::tolerantly_at_most;
+using namespace VARNO::detail;
 
 void Calc_ChebyshevPolynomial(double x, double lower, double upper, int order,
                               double* const values) {

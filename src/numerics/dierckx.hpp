@@ -14,7 +14,7 @@
 // - Return codes: 0 success; for curfit -1 (interpolating spline), -2 (least-squares
 //   polynomial), 1 (nest too small), 2 (impossible result), 3 (iteration limit reached); 10 for
 //   invalid input everywhere.
-// - The routines are not reentrant by contract: callers serialise them.
+// - The routines keep no state between calls: they work only in the arrays they are given.
 
 namespace VARNO {
 namespace detail {

@@ -206,12 +206,16 @@ struct KnotSearch {
 // How many knots to add: one after the polynomial, then as many as a linear model of the
 // decrease of fp asks for, at most doubling and at least halving the last step.
 int knots_to_add(KnotSearch const& search, double fp, double fpms, double acc) {
-    int npl1 = search.nplus * 2;
+    int const most = search.nplus * 2;
+    int npl1 = most;
     double const rn = search.nplus;
     if (search.fpold - fp > acc) {
-        npl1 = static_cast<int>(rn * fpms / (search.fpold - fp));
+        // Bounded while still a double: a tiny decrease of fp asks for more knots than an int
+        // holds, and its conversion would be undefined.
+        double const asked = rn * fpms / (search.fpold - fp);
+        npl1 = asked < most ? static_cast<int>(std::max(asked, 0.0)) : most;
     }
-    return std::min(search.nplus * 2, std::max({npl1, search.nplus / 2, 1}));
+    return std::min(most, std::max({npl1, search.nplus / 2, 1}));
 }
 
 // Stage 1: least-squares splines on growing sets of knots until one has fp <= s (then true:

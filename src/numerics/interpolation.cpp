@@ -4,9 +4,7 @@
 
 #include <cmath>
 
-using VARNO::detail::tolerantly_above;
-using VARNO::detail::tolerantly_at_least;
-using VARNO::detail::tolerantly_below;
+using namespace VARNO::detail;
 
 namespace {
 

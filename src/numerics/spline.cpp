@@ -8,9 +8,7 @@
 #include <memory>
 #include <vector>
 
-using VARNO::detail::tolerantly_at_least;
-using VARNO::detail::tolerantly_at_most;
-using VARNO::detail::tolerantly_below;
+using namespace VARNO::detail;
 
 namespace {
 
@@ -94,17 +92,17 @@ void evaluate_natural_spline(int n, double const* x, double const* y, int nq, do
 
 double evaluate_cubic_spline(int n, double* x, double* y, double q) {
     // Zero curvature at both ends, as for the natural spline.
-    std::unique_ptr<double[]> const ypp(VARNO::detail::spline_cubic_set(n, x, y, 2, 0.0, 2, 0.0));
+    std::unique_ptr<double[]> const ypp(spline_cubic_set(n, x, y, 2, 0.0, 2, 0.0));
     double derivative = 0.0;
     double curvature = 0.0;
-    return VARNO::detail::spline_cubic_val(n, x, y, ypp.get(), q, &derivative, &curvature);
+    return spline_cubic_val(n, x, y, ypp.get(), q, &derivative, &curvature);
 }
 
 double evaluate_pchip(int n, double* x, double* y, double q) {
     std::vector<double> d(static_cast<std::size_t>(n > 0 ? n : 0));
-    VARNO::detail::spline_pchip_set(n, x, y, d.data());
+    spline_pchip_set(n, x, y, d.data());
     double value = 0.0;
-    VARNO::detail::spline_pchip_val(n, x, y, d.data(), 1, &q, &value);
+    spline_pchip_val(n, x, y, d.data(), 1, &q, &value);
     return value;
 }
 

@@ -6,6 +6,7 @@
 #include "frame/numeric_helpers.hpp"
 
 #include <cmath>
+#include <limits>
 
 namespace VARNO {
 namespace detail {
@@ -133,6 +134,9 @@ double arp866_absorption::coefficient(double frequency) const {
 }
 
 double air1845_coefficient(double frequency) {
+    if (!has_band(frequency)) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
     int const index = tob_index(frequency);
     if (index < 0 || index >= static_cast<int>(tob_band_count)) {
         return 0.0;
@@ -165,6 +169,9 @@ arp5534_absorption::arp5534_absorption(double temperature, double pressure,
 }
 
 double arp5534_absorption::coefficient(double frequency) const {
+    if (!has_band(frequency)) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
     double const f_mid = std::pow(10.0, 0.1 * band_number(frequency));
     double const g = f_mid * f_mid;
     double const fo = oxygen_frequency_;

@@ -35,11 +35,13 @@ private:
     double humidity_ratio_; // humidity term of the method, before the frequency scaling
 };
 
-/// Fixed absorption per third-octave band of SAE AIR 1845 (bands of 50 Hz to 10 kHz; 0 outside).
+/// Fixed absorption per third-octave band of SAE AIR 1845 (bands of 50 Hz to 10 kHz; 0 outside;
+/// not-a-number for a frequency that is not a finite number, which has no band).
 double air1845_coefficient(double frequency);
 
 /// Absorption of a whole third-octave band over a path of `distance` m (SAE ARP 5534): the
-/// pure-tone loss at the exact band mid-frequency, converted to a band loss.
+/// pure-tone loss at the exact band mid-frequency, converted to a band loss; not-a-number for a
+/// frequency that is not a finite number, which has no band.
 class arp5534_absorption {
 public:
     arp5534_absorption(double temperature, double pressure, double relative_humidity,

@@ -7,9 +7,9 @@
 #include <cmath>
 #include <limits>
 
-namespace {
-
 using namespace VARNO::detail;
+
+namespace {
 
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 

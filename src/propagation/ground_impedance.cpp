@@ -32,7 +32,7 @@ complex slit_function(double v) {
 
 air_properties air_properties::of(ambient_conditions_t const& ambient) {
     double const density = ((ambient.pressure * 0.3485) / ambient.temperature) / 100.0;
-    double const sound_speed = std::sqrt(ambient.temperature) * 20.0468;
+    double const sound_speed = std::sqrt(ambient.temperature) * ground_sound_speed_per_root_kelvin;
     return {density, sound_speed, sound_speed * density};
 }
 

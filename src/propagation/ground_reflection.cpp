@@ -10,6 +10,7 @@
 
 #include <boost/format.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <vector>
@@ -20,30 +21,27 @@ namespace {
 
 constexpr double two_pi = 2.0 * pi;
 
-// Working storage of the bands of one grid. It survives between calls so that a run over many
-// time steps and observers on one grid allocates nothing; it is rebuilt when the grid changes.
+// Averaged over a third-octave band, from fc*2^(-1/6) to fc*2^(1/6), the interference
+// cos(2 pi lag f/fc + phase) of a lag in wavelengths at the centre fc becomes
+// cos(lag * centre_phase + phase) * sin(lag * spread_phase) / (lag * spread_phase), with the
+// two phases per wavelength below, in the six figures the band average is known by.
+constexpr double centre_phase = 6.32516; // 2 pi (2^(1/6) + 2^(-1/6)) / 2
+constexpr double spread_phase = 0.72748; // pi (2^(1/6) - 2^(-1/6))
+
+// Working storage of the bands, one per thread. It survives between calls so that a run over
+// many time steps and observers allocates nothing once it has grown to the largest grid.
 struct ground_working_storage {
-    bool built = false;
-    boost::shared_ptr<frequency_range_t> grid;
     std::vector<double> reflection;   // magnitude of the reflection coefficient
     std::vector<double> interference; // band-averaged interference factor
-    std::vector<double> wavelength;   // m
 
-    void prepare(boost::shared_ptr<frequency_range_t> const& range) {
-        std::size_t const count = range->size();
-        if (built && grid->equals(range) && wavelength.size() == count) {
-            return;
-        }
-        grid = range;
-        reflection.assign(count, 0.0);
-        interference.assign(count, 0.0);
-        wavelength.assign(count, 0.0);
-        built = true;
+    void prepare(std::size_t count) {
+        reflection.resize(count);
+        interference.resize(count);
     }
 };
 
 ground_working_storage& working_storage() {
-    static ground_working_storage storage;
+    thread_local ground_working_storage storage;
     return storage;
 }
 
@@ -58,10 +56,15 @@ struct ray_geometry {
     double grazing_rad;
 };
 
-void store_reflection(std::complex<double> const& coefficient, std::size_t i,
-                      std::vector<double>& reflection, spectrum_t& phase) {
-    reflection[i] = std::abs(coefficient);
-    phase.values[i] = std::atan2(coefficient.imag(), coefficient.real());
+// Magnitude and phase of the complex reflection coefficient `coefficient_at(f)` of each band.
+template <class Coefficient>
+void store_reflections(frequency_range_t const& grid, Coefficient coefficient_at,
+                       std::vector<double>& reflection, spectrum_t& phase) {
+    for (std::size_t i = 0; i < reflection.size(); ++i) {
+        std::complex<double> const coefficient = coefficient_at(grid(i));
+        reflection[i] = std::abs(coefficient);
+        phase.values[i] = std::atan2(coefficient.imag(), coefficient.real());
+    }
 }
 
 // Reflection of every band of `grid` by the ground of `options`, magnitude and phase.
@@ -70,16 +73,13 @@ void compute_reflection(common_all_sources_transposition_t const& options,
                         frequency_range_t const& grid, std::vector<double>& reflection,
                         spectrum_t& phase) {
     ground_reflection_method_t const method = options.ground_reflection_method;
-    std::size_t const count = reflection.size();
     switch (method) {
     case ground_perfect:
-        for (std::size_t i = 0; i < count; ++i) {
-            reflection[i] = 1.0;
-            phase.values[i] = 0.0;
-        }
+        std::fill(reflection.begin(), reflection.end(), 1.0);
+        std::fill(phase.values.begin(), phase.values.begin() + reflection.size(), 0.0);
         return;
     case ground_certification_sae_air1672b:
-        for (std::size_t i = 0; i < count; ++i) {
+        for (std::size_t i = 0; i < reflection.size(); ++i) {
             reflection[i] = certification_ground_reflection(grid(i), i);
             phase.values[i] = 0.0;
         }
@@ -93,28 +93,33 @@ void compute_reflection(common_all_sources_transposition_t const& options,
             user_defined ? options.ground_flow_resistivity : Calc_DelanyBazleySigma(method);
         double const thickness = user_defined ? options.ground_layer_thickness * 0.001
                                               : Calc_DelanyBazleyThickness(sigma);
-        for (std::size_t i = 0; i < count; ++i) {
-            store_reflection(
-                delany_bazley_layer_reflection(grid(i), sigma, thickness, rays.grazing_rad, air), i,
-                reflection, phase);
-        }
+        store_reflections(
+            grid,
+            [&](double f) {
+                return delany_bazley_layer_reflection(f, sigma, thickness, rays.grazing_rad, air);
+            },
+            reflection, phase);
         return;
     }
     case ground_attenborough_user_defined:
-        for (std::size_t i = 0; i < count; ++i) {
-            store_reflection(attenborough_reflection(grid(i), options.attenborough_porosity_rate,
-                                                     options.attenborough_flow_resistivity,
-                                                     rays.grazing_rad, air),
-                             i, reflection, phase);
-        }
+        store_reflections(
+            grid,
+            [&](double f) {
+                return attenborough_reflection(f, options.attenborough_porosity_rate,
+                                               options.attenborough_flow_resistivity,
+                                               rays.grazing_rad, air);
+            },
+            reflection, phase);
         return;
     case ground_slit_pore_user_defined:
-        for (std::size_t i = 0; i < count; ++i) {
-            store_reflection(slit_pore_reflection(grid(i), options.slit_pore_porosity,
-                                                  options.slit_pore_flow_resistivity,
-                                                  rays.grazing_deg, air),
-                             i, reflection, phase);
-        }
+        store_reflections(
+            grid,
+            [&](double f) {
+                return slit_pore_reflection(f, options.slit_pore_porosity,
+                                            options.slit_pore_flow_resistivity, rays.grazing_deg,
+                                            air);
+            },
+            reflection, phase);
         return;
     }
 }
@@ -123,23 +128,24 @@ void compute_reflection(common_all_sources_transposition_t const& options,
 // by the third-octave band average on the shared third-octave grid, by the average over a
 // constant bandwidth on a narrowband grid, and not at all on a listed grid.
 void compute_interference(boost::shared_ptr<frequency_range_t> const& range,
-                          ray_geometry const& rays, double sound_speed,
-                          ground_working_storage& storage, spectrum_t const& phase) {
+                          ray_geometry const& rays, air_properties const& air, double sound_speed,
+                          std::vector<double>& interferences, spectrum_t const& phase) {
     double const path_difference = rays.path_difference;
     bool const same_length = tolerantly_equal(path_difference, 0.0);
     bool const third_octave = range.get() == tob_frequency_range_ptr.get();
     bool const uniform_step = tolerantly_above(range->df, 0.0);
     double const bandwidth_phase = (path_difference * pi * range->df) / sound_speed;
     double const bandwidth_average = std::sin(bandwidth_phase) / bandwidth_phase;
-    for (std::size_t i = 0; i < storage.interference.size(); ++i) {
-        double const lag = path_difference / storage.wavelength[i]; // in wavelengths
+    for (std::size_t i = 0; i < interferences.size(); ++i) {
+        double const wavelength = air.sound_speed / (*range)(i);
+        double const lag = path_difference / wavelength; // in wavelengths
         double const reflection_phase = phase.values[i];
-        double& interference = storage.interference[i];
+        double& interference = interferences[i];
         if (same_length) {
             interference = std::cos(reflection_phase);
         } else if (third_octave) {
-            interference = std::cos(lag * 6.32516 + reflection_phase) *
-                           (std::sin(lag * 0.72748) / (lag * 0.72748));
+            interference = std::cos(lag * centre_phase + reflection_phase) *
+                           (std::sin(lag * spread_phase) / (lag * spread_phase));
         } else if (uniform_step) {
             interference = bandwidth_average * std::cos(lag * two_pi + reflection_phase);
         } else {
@@ -165,7 +171,7 @@ void Calc_GroundReflectionEffect(boost::shared_ptr<common_all_sources_transposit
     }
     boost::shared_ptr<frequency_range_t> const& range = effect->frequency_range;
     ground_working_storage& storage = working_storage();
-    storage.prepare(range);
+    storage.prepare(range->size());
 
     ground_reflection_method_t const method = options->ground_reflection_method;
     if (!is_known_ground(method)) {
@@ -176,10 +182,7 @@ void Calc_GroundReflectionEffect(boost::shared_ptr<common_all_sources_transposit
     ray_geometry const rays{path_difference, grazing_angle, grazing_angle * degrees_to_radians};
     frequency_range_t const& grid = *range;
     compute_reflection(*options, air, rays, grid, storage.reflection, *phase);
-    for (std::size_t i = 0; i < storage.wavelength.size(); ++i) {
-        storage.wavelength[i] = air.sound_speed / grid(i);
-    }
-    compute_interference(range, rays, sound_speed, storage, *phase);
+    compute_interference(range, rays, air, sound_speed, storage.interference, *phase);
 
     double const q = direct_distance / reflected_distance;
     for (std::size_t i = 0; i < storage.reflection.size(); ++i) {

@@ -15,29 +15,21 @@ namespace detail {
 
 namespace {
 
-// Up to two bands, with the share of the line's energy each one takes.
+// Up to two grid indices, with the share of the line's energy each one takes.
 struct band_shares {
-    int band[2];
+    int index[2];
     double share[2];
 };
 
 band_shares shares_of_line(double frequency, int band) {
-    int const index = tob_index_of_band(band);
-    double const lower_edge = band_lower_edge(band);
-    double const upper_edge = band_upper_edge(band);
-    if (tolerantly_below(frequency, lower_edge * band_edge_overlap)) {
-        edge_shares const shares = shares_across_edge(frequency, lower_edge);
-        return {{index - 1, index}, {shares.lower, shares.upper}};
-    }
-    if (tolerantly_at_most(frequency, upper_edge / band_edge_overlap)) {
+    edge_zone const zone = edge_zone_of(frequency, band);
+    if (zone == edge_zone::inside) {
+        int const index = tob_index_of_band(band);
         return {{index, index}, {1.0, 0.0}};
     }
-    edge_shares const shares = shares_across_edge(frequency, upper_edge);
-    return {{index, index + 1}, {shares.lower, shares.upper}};
-}
-
-bool on_grid(int index) {
-    return index >= 0 && index < static_cast<int>(tob_band_count);
+    shared_edge const edge = shared_edge_of(zone, band);
+    edge_shares const shares = share_across_edge(edge.overlap, frequency, 1.0);
+    return {{edge.lower_index, edge.lower_index + 1}, {shares.lower, shares.upper}};
 }
 
 } // namespace
@@ -48,24 +40,25 @@ void share_discrete_lines_into_tob(frequency_range_t const& range,
     std::fill_n(tob_levels.begin(), tob_band_count * columns, 0.0);
     for (std::size_t k = 0; k < range.count; ++k) {
         double const frequency = range(k);
-        // Below 1 Hz a line has no band; a line whose own band is off the grid is dropped
-        // whole, even the part of it that overlaps a band on the grid.
-        if (frequency < 1.0) {
+        // Below 1 Hz, and at a frequency that is not a finite number, a line has no band; a line
+        // whose own band is off the grid is dropped whole, even the part of it that overlaps a
+        // band on the grid.
+        if (!(frequency >= 1.0) || !has_band(frequency)) {
             continue;
         }
         int const band = band_number(frequency);
-        if (!on_grid(tob_index_of_band(band))) {
+        if (!on_grid(tob_index_of_band(band), tob_band_count)) {
             continue;
         }
         band_shares const shares = shares_of_line(frequency, band);
         for (int part = 0; part < 2; ++part) {
-            if (!on_grid(shares.band[part]) || shares.share[part] == 0.0) {
+            if (!on_grid(shares.index[part], tob_band_count) || shares.share[part] == 0.0) {
                 continue;
             }
-            std::size_t const index = static_cast<std::size_t>(shares.band[part]);
+            std::size_t const index = static_cast<std::size_t>(shares.index[part]);
             for (std::size_t column = 0; column < columns; ++column) {
                 tob_levels[index * columns + column] +=
-                    shares.share[part] * line_energy(levels[k * columns + column]);
+                    shares.share[part] * energy_of_level_tenths(levels[k * columns + column]);
             }
         }
     }

@@ -53,9 +53,7 @@ filter_bank_shape filter_bank_shape_of(nbtob_conversion_method method) {
 filter_bank_conversion::filter_bank_conversion(frequency_range_t const& range,
                                                std::vector<double> const& levels,
                                                std::size_t columns, filter_bank_shape shape)
-    : first_index_in_use(-1)
-    , last_index_in_use(-1)
-    , range_(range)
+    : range_(range)
     , columns_(columns)
     , shape_(shape)
     , line_energies_(range.count * columns)
@@ -67,7 +65,7 @@ filter_bank_conversion::filter_bank_conversion(frequency_range_t const& range,
     , octaves_(1, bank_low_hz, bank_high_hz, bank_order, bank_base_two) {
     // Each line's energy is needed by every band whose filter passes it: take it once.
     for (std::size_t entry = 0; entry < line_energies_.size(); ++entry) {
-        line_energies_[entry] = line_energy(levels[entry]);
+        line_energies_[entry] = energy_of_level_tenths(levels[entry]);
     }
 }
 
@@ -81,16 +79,13 @@ void filter_bank_conversion::band_levels(std::size_t bands_per_octave, double f_
     auto const last = std::find_if(first, filters.end(), [f_high](auto const& filter) {
         return tolerantly_above(filter.nominal_frequency, f_high);
     });
-    first_index_in_use = first == last ? -1 : first->band_index;
-    last_index_in_use = first == last ? -1 : (last - 1)->band_index;
-
     levels.assign(static_cast<std::size_t>(last - first) * columns_, 0.0);
     double* band_energies = levels.data();
     for (auto filter = first; filter != last; ++filter, band_energies += columns_) {
         add_band_energy(bank, *filter, band_energies);
     }
     for (double& level : levels) {
-        level = band_level(level);
+        level = uncut_band_level(level);
     }
 }
 

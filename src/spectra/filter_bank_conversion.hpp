@@ -55,12 +55,9 @@ public:
 
     /// Levels in dB of the bands of the bank of `bands_per_octave` (12, 3 or 1) whose nominal
     /// centres lie from `f_low` to `f_high` Hz, band-major with `columns` per band, written to
-    /// `levels` (resized). Sets the band numbers in use.
+    /// `levels` (resized).
     void band_levels(std::size_t bands_per_octave, double f_low, double f_high,
                      std::vector<double>& levels);
-
-    int first_index_in_use; ///< band number of the first band asked for, -1 before any request
-    int last_index_in_use;  ///< band number of the last band asked for, -1 before any request
 
 private:
     acoustics::OctaveBandFilterBank const& bank_with(std::size_t bands_per_octave) const;

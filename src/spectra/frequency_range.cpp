@@ -5,8 +5,7 @@
 #include <boost/make_shared.hpp>
 #include <boost/numeric/conversion/cast.hpp>
 
-using VARNO::detail::tolerantly_above;
-using VARNO::detail::tolerantly_equal;
+using namespace VARNO::detail;
 
 frequency_range_t::frequency_range_t()
     : f_start(0.0)

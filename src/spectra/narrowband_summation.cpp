@@ -90,7 +90,8 @@ void sum_whole_lines(frequency_range_t const& range, std::vector<double> const& 
     for (std::size_t band = first; band < band_count; ++band) {
         for (std::size_t k = run_start[band]; k < run_start[band + 1]; ++k) {
             for (std::size_t column = 0; column < columns; ++column) {
-                energies[band * columns + column] += line_energy(levels[k * columns + column]);
+                energies[band * columns + column] +=
+                    energy_of_level_tenths(levels[k * columns + column]);
             }
         }
     }
@@ -101,11 +102,12 @@ void sum_whole_lines(frequency_range_t const& range, std::vector<double> const& 
 // is the power response itself, so it costs no pow.
 void sum_filtered_lines(frequency_range_t const& range, std::vector<double> const& levels,
                         std::size_t columns, band_span span, std::vector<double>& energies) {
-    double const q = tob_filter_q();
+    // Computed once, on first use; the language makes concurrent first calls wait for it.
+    static double const q = butterworth_band_q(2.0, 3, tob_filter_order);
     for (std::size_t k = 0; k < range.count; ++k) {
         double const frequency = range(k);
         for (std::size_t column = 0; column < columns; ++column) {
-            double const energy = line_energy(levels[k * columns + column]);
+            double const energy = energy_of_level_tenths(levels[k * columns + column]);
             for (std::size_t band = span.first; band < span.last; ++band) {
                 double const centre = tob_fc_nominal[tob_first_band - 1 + band];
                 energies[band * columns + column] +=
@@ -138,7 +140,7 @@ void sum_overlapping_lines(frequency_range_t const& range, std::vector<double> c
     for (std::size_t k = 0; k < range.count; ++k) {
         double const frequency = range(k);
         for (std::size_t column = 0; column < columns; ++column) {
-            double const energy = line_energy(levels[k * columns + column]);
+            double const energy = energy_of_level_tenths(levels[k * columns + column]);
             for (std::size_t band = span.first; band < span.last; ++band) {
                 double const share = overlap_share(frequency, band_lower(band), band_upper(band),
                                                    half_line, range.df);
@@ -154,18 +156,6 @@ bool is_known(nbtob_conversion_method method) {
 }
 
 } // namespace
-
-double tob_filter_q() {
-    // A function-local static is initialised once, and the language makes concurrent first
-    // calls wait for it. The factor (pi/2N)/sin(pi/2N) widens the ideal-band Q so that the
-    // Butterworth curve passes the band's nominal noise bandwidth.
-    static double const q = [] {
-        double const half_pole_angle = pi / (2.0 * tob_filter_order);
-        double const ideal_q = 1.0 / (std::pow(2.0, 1.0 / 6.0) - std::pow(2.0, -1.0 / 6.0));
-        return half_pole_angle / std::sin(half_pole_angle) * ideal_q;
-    }();
-    return q;
-}
 
 int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> const& levels,
                             std::size_t columns, nbtob_conversion_method method, int line_count,
@@ -190,7 +180,7 @@ int sum_narrowband_into_tob(frequency_range_t const& range, std::vector<double> 
         break;
     }
     for (std::size_t entry = 0; entry < band_count * columns; ++entry) {
-        tob_levels[entry] = band_level(tob_levels[entry]);
+        tob_levels[entry] = uncut_band_level(tob_levels[entry]);
     }
     return 0;
 }

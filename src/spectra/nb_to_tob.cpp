@@ -3,6 +3,8 @@
 #include "spectra/filter_bank_conversion.hpp"
 #include "spectra/tob_conversion.hpp"
 
+using namespace VARNO::detail;
+
 // The filter-bank conversion of a spectrum or a field: the third-octave bands from 50 Hz to
 // 10 kHz, which are exactly the bands of the library's grid.
 
@@ -14,9 +16,8 @@ constexpr std::size_t third_octave = 3;
 
 template <class Levels>
 void filter_into_tob(Levels const& input, Levels& output, nbtob_conversion_method method) {
-    VARNO::detail::filter_bank_conversion conversion(*input.frequency_range, input.values,
-                                                     VARNO::detail::column_count(input),
-                                                     VARNO::detail::filter_bank_shape_of(method));
+    filter_bank_conversion conversion(*input.frequency_range, input.values, column_count(input),
+                                      filter_bank_shape_of(method));
     conversion.band_levels(third_octave, tob_low_hz, tob_high_hz, output.values);
 }
 

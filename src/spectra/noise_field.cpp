@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace VARNO::detail;
+
 noise_field_t::noise_field_t()
     : owns_frequency_range(false)
     , owns_column_range(false) {}
@@ -54,7 +56,7 @@ void noise_field_t::log_add(boost::shared_ptr<noise_field_t> a, boost::shared_pt
         for (std::size_t i = 0; i < frequencies; ++i) {
             // Both inputs are read before the output is written, so result may alias a or b.
             std::size_t const entry = i * columns + column;
-            result->values[entry] = VARNO::detail::add_levels(a->values[entry], b->values[entry]);
+            result->values[entry] = add_levels(a->values[entry], b->values[entry]);
         }
     }
 }

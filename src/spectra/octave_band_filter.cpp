@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace VARNO::detail;
+
 // Fractional-octave filters after the usual band-numbering convention: band 30 is centred on
 // the 1 kHz reference, bands of an odd count per octave are centred on ratio powers of the
 // reference, and those of an even count sit half a band off it. Octave and third-octave bands
@@ -124,13 +126,7 @@ OctaveBandFilterBank::OctaveBandFilterBank(std::size_t bands_per_octave, double 
     for (int band = first; band <= last; ++band) {
         filters.emplace_back(this, band);
     }
-    // The ideal band's Q widened by (pi/2N)/sin(pi/2N), so that a Butterworth band of order N
-    // passes white noise over exactly the band's width.
-    double const n = static_cast<double>(order);
-    double const half_band = 0.5 / static_cast<double>(bands_per_octave);
-    double const ideal_q =
-        1.0 / (std::pow(octave_ratio, half_band) - std::pow(octave_ratio, -half_band));
-    q_design = (VARNO::detail::pi / 2.0 / n) * ideal_q / std::sin(VARNO::detail::pi / (2.0 * n));
+    q_design = butterworth_band_q(octave_ratio, bands_per_octave, order);
 }
 
 OctaveBandFilterBank::~OctaveBandFilterBank() = default;

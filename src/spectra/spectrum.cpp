@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cstdint>
 
+using namespace VARNO::detail;
+
 spectrum_t::spectrum_t()
     : owns_frequency_range(false) {}
 
@@ -45,7 +47,7 @@ void spectrum_t::log_add(boost::shared_ptr<spectrum_t> a, boost::shared_ptr<spec
     std::size_t const count = a->frequency_range->count;
     for (std::size_t i = 0; i < count; ++i) {
         // Both inputs are read before the output is written, so result may alias a or b.
-        result->values[i] = VARNO::detail::add_levels(a->values[i], b->values[i]);
+        result->values[i] = add_levels(a->values[i], b->values[i]);
     }
 }
 

@@ -1,6 +1,10 @@
 #include <calc-common/spectra.hpp>
 
+#include "frame/bands.hpp"
+
 #include <boost/make_shared.hpp>
+
+using namespace VARNO::detail;
 
 // The tables are data, not formulas: these digits are the values callers rely on.
 
@@ -25,14 +29,11 @@ double const tob_fl[51] = {
 
 namespace {
 
-// Centre frequencies of the 24-band grid, bands 17 (50 Hz) to 40 (10 kHz).
-double const tob_grid_frequencies[] = {50,   63,   80,   100,  125,  160,  200,  250,
-                                       315,  400,  500,  630,  800,  1000, 1250, 1600,
-                                       2000, 2500, 3150, 4000, 5000, 6300, 8000, 10000};
-
+// The 24-band grid: the nominal centres of bands 17 (50 Hz) to 40 (10 kHz).
 boost::shared_ptr<frequency_range_t> make_tob_grid() {
+    double const* const first = tob_fc_nominal + (tob_first_band - 1);
     boost::shared_ptr<frequency_range_t> grid = boost::make_shared<frequency_range_t>();
-    grid->frequencies.assign(std::begin(tob_grid_frequencies), std::end(tob_grid_frequencies));
+    grid->frequencies.assign(first, first + tob_band_count);
     grid->count = grid->frequencies.size();
     return grid;
 }

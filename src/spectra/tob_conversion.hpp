@@ -9,24 +9,11 @@
 
 #include "frame/numeric_helpers.hpp"
 
-#include <cmath>
 #include <cstddef>
 #include <vector>
 
 namespace VARNO {
 namespace detail {
-
-/// Energy 10^(L/10) of one line of level L dB, with no cut: the conversions cut only the band
-/// totals (or not at all), so faint lines still add up within a band.
-inline double line_energy(double level_db) {
-    return std::pow(10.0, level_db * 0.1);
-}
-
-/// Level in dB of a narrowband band energy, with no cut: a small energy gives a negative level,
-/// and only a band that no energy reaches stays 0.0.
-inline double band_level(double energy) {
-    return VARNO::detail::tolerantly_equal(energy, 0.0) ? 0.0 : 10.0 * std::log10(energy);
-}
 
 /// Number of level columns: one for a spectrum.
 inline std::size_t column_count(spectrum_t const&) {
@@ -53,10 +40,6 @@ inline double band_pass_power_response(double q, std::size_t order, double frequ
 
 /// Order of the band-pass curve of the narrowband conversion's method 1.
 constexpr std::size_t tob_filter_order = 3;
-
-/// Quality factor of that curve: a base-2 third-octave band of that order with its nominal
-/// noise bandwidth. Computed once per process, safely across threads.
-double tob_filter_q();
 
 /// Narrowband summation of `levels` (on the regular grid `range`) into `tob_levels`, whose
 /// first 24*columns entries are overwritten. Returns 1 for an unknown method (the bands are

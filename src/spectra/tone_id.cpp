@@ -2,6 +2,8 @@
 
 #include "frame/numeric_helpers.hpp"
 
+using namespace VARNO::detail;
+
 tone_id_t::tone_id_t()
     : band_index(0)
     , bpf_harmonic(0.0)
@@ -58,7 +60,7 @@ tone_id_t tone_id_t::clone() const {
 
 bool tone_id_t::equals(tone_id_t const& other) const {
     return cror_harmonic_2 == other.cror_harmonic_2 &&
-           VARNO::detail::tolerantly_equal(bpf_harmonic, other.bpf_harmonic) &&
+           tolerantly_equal(bpf_harmonic, other.bpf_harmonic) &&
            engine_order == other.engine_order && cror_harmonic_1 == other.cror_harmonic_1 &&
            ni_order == other.ni_order;
 }

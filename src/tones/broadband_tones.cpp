@@ -7,6 +7,8 @@
 #include <cmath>
 #include <vector>
 
+using namespace VARNO::detail;
+
 // Separation by shape alone: locate the tone bands, fill the holes they leave in the broadband
 // floor, give doubtful tones back, and finally take the floor's energy out of each tone band.
 
@@ -21,7 +23,7 @@ constexpr int cut_band_offset = tob_first_band + 2;
 } // namespace
 
 int cut_index(double cut_frequency, std::size_t band_count) {
-    if (!on_frequency_axis(cut_frequency)) {
+    if (!has_band(cut_frequency)) {
         return 0;
     }
     int const k = band_number(cut_frequency) - cut_band_offset;
@@ -47,8 +49,8 @@ int Calc_SeparateTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
 int Calc_SeparateTonesArray(double const* levels, std::size_t band_count, double* broadband,
                             double* tones, double check_margin, double cut_frequency,
                             tone_sep_method_t method, double slope_step, double tone_margin) {
-    static std::vector<double> input;
-    static std::vector<double> floor;
+    thread_local std::vector<double> input;
+    thread_local std::vector<double> floor;
     if (input.size() != band_count) {
         input.resize(band_count);
         floor.resize(band_count);
@@ -78,20 +80,19 @@ int Calc_BBTones(boost::shared_ptr<spectrum_t> spectrum, double const& check_mar
     double const* const levels = spectrum->values.data();
     double* const floor = broadband->values.data();
     double* const tone_levels = tones->values.data();
-    int const k =
-        VARNO::detail::Calc_SeparateTonesArray(levels, n, floor, tone_levels, check_margin,
-                                               cut_frequency, method, slope_step, tone_margin);
+    int const k = Calc_SeparateTonesArray(levels, n, floor, tone_levels, check_margin,
+                                          cut_frequency, method, slope_step, tone_margin);
     // At and below the cut index no tone survives, whatever the check decided.
     std::size_t const cut = static_cast<std::size_t>(k);
     for (std::size_t i = 0; i <= cut; ++i) {
         floor[i] = levels[i];
         tone_levels[i] = 0.0;
     }
-    // Above it a tone band keeps the energetic excess of the input over the floor.
+    // Above it a tone band keeps the energetic excess of the input over the floor; a band whose
+    // excess rounds away to nothing holds no tone, that is silence.
     for (std::size_t i = cut + 1; i < n; ++i) {
-        tone_levels[i] = levels[i] > floor[i] ? 10.0 * std::log10(std::pow(10.0, levels[i] / 10.0) -
-                                                                  std::pow(10.0, floor[i] / 10.0))
-                                              : 0.0;
+        double const excess = energy_of_level(levels[i]) - energy_of_level(floor[i]);
+        tone_levels[i] = levels[i] > floor[i] && excess > 0.0 ? level_of_energy(excess) : 0.0;
     }
     return k;
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace VARNO::detail;
+
 // A tone read from band levels: near a band edge only part of its energy lies in its own band,
 // the rest in the neighbour. When the neighbour holds a tone too, the two bands are summed; when
 // it holds none, the tone's remainder sits in the neighbour's broadband, and the tone level is
@@ -16,16 +18,6 @@
 
 namespace {
 
-using namespace VARNO::detail;
-
-double energy_of(double level_db) {
-    return std::pow(10.0, 0.1 * level_db);
-}
-
-double level_of(double energy) {
-    return 10.0 * std::log10(energy);
-}
-
 struct tone_position {
     int number; // band number
     int index;  // grid index, off_grid for a frequency with no band
@@ -33,7 +25,7 @@ struct tone_position {
 };
 
 tone_position locate(double frequency) {
-    if (!on_frequency_axis(frequency)) {
+    if (!has_band(frequency)) {
         return {0, off_grid, edge_zone::inside};
     }
     int const number = band_number(frequency);
@@ -52,20 +44,21 @@ double corrected_level(double in_band, double shortfall_db, double& neighbour_br
         return in_band;
     }
     if (exact_energy) {
-        double const remainder = energy_of(whole) - energy_of(in_band);
-        if (tolerantly_at_most(energy_of(neighbour_broadband), remainder)) {
+        double const remainder = energy_of_level_tenths(whole) - energy_of_level_tenths(in_band);
+        if (tolerantly_at_most(energy_of_level_tenths(neighbour_broadband), remainder)) {
             return in_band;
         }
         neighbour_broadband =
-            level_of(energy_of(neighbour_broadband) - energy_of(whole) + energy_of(in_band));
+            level_of_energy(energy_of_level_tenths(neighbour_broadband) -
+                            energy_of_level_tenths(whole) + energy_of_level_tenths(in_band));
         return whole;
     }
     // Approximation: the remainder is taken as a level `shortfall_db` below the in-band level.
     if (tolerantly_at_most(neighbour_broadband, in_band - shortfall_db)) {
         return in_band;
     }
-    neighbour_broadband =
-        level_of(energy_of(neighbour_broadband) - energy_of(in_band - shortfall_db));
+    neighbour_broadband = level_of_energy(energy_of_level_tenths(neighbour_broadband) -
+                                          energy_of_level_tenths(in_band - shortfall_db));
     return whole;
 }
 
@@ -82,11 +75,12 @@ double recovered_level(std::vector<double> const& tones, std::vector<double>& br
     if (position.zone == edge_zone::lower_overlap) {
         std::size_t const below = band - 1;
         if (tones[below] > empty_band_level) {
-            return level_of(energy_of(tones[below]) + energy_of(in_band));
+            return level_of_energy(energy_of_level_tenths(tones[below]) +
+                                   energy_of_level_tenths(in_band));
         }
         edge_overlap const overlap = overlap_around(band_lower_edge(position.number));
-        double const shortfall = 10.0 * std::log10(overlap.high - overlap.low) -
-                                 10.0 * std::log10(frequency - overlap.low);
+        double const shortfall =
+            level_of_energy(overlap.high - overlap.low) - level_of_energy(frequency - overlap.low);
         return corrected_level(in_band, shortfall, broadband[below], exact_energy, keep_broadband);
     }
     if (position.zone == edge_zone::upper_overlap) {
@@ -95,11 +89,12 @@ double recovered_level(std::vector<double> const& tones, std::vector<double>& br
         }
         std::size_t const above = band + 1;
         if (tolerantly_above(tones[above], 0.0)) {
-            return level_of(energy_of(in_band) + energy_of(tones[above]));
+            return level_of_energy(energy_of_level_tenths(in_band) +
+                                   energy_of_level_tenths(tones[above]));
         }
         edge_overlap const overlap = overlap_around(band_upper_edge(position.number));
-        double const shortfall = 10.0 * std::log10(overlap.high - overlap.low) -
-                                 10.0 * std::log10(overlap.high - frequency);
+        double const shortfall =
+            level_of_energy(overlap.high - overlap.low) - level_of_energy(overlap.high - frequency);
         return corrected_level(in_band, shortfall, broadband[above], exact_energy, keep_broadband);
     }
     return in_band;
@@ -150,7 +145,7 @@ void Calc_DopplerizeTone(boost::shared_ptr<spectrum_t> tones,
                          boost::shared_ptr<spectrum_t> shifted, double* shifted_frequency,
                          double* tone_level, double* tone_level_copy, bool exact_energy,
                          bool keep_broadband) {
-    static boost::shared_ptr<spectrum_t> const tone_scratch = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const tone_scratch = spectrum_t::create_tob();
     tone_scratch->frequency_range = tones->frequency_range;
 
     std::vector<double> const& tone_levels = tones->values;

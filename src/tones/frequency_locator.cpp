@@ -6,6 +6,8 @@
 #include <cmath>
 #include <vector>
 
+using namespace VARNO::detail;
+
 // The band-slope procedure of tone correction for perceived noise: changes of slope between
 // adjacent bands flag candidate tones, the flagged bands are bridged by their neighbours, and a
 // baseline is rebuilt from three-band averages of the bridged slopes. A band that stands
@@ -13,8 +15,6 @@
 // first to the last that hold any level.
 
 namespace {
-
-using VARNO::detail::empty_band_level;
 
 // Scratch arrays of one locator, reused while the band count stays the same.
 struct frequency_locator_workspace {
@@ -151,10 +151,10 @@ void locate_by_frequency(double const* levels, std::size_t n, occupied_span span
 void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> spectrum, double slope_step,
                        double tone_margin, boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones) {
-    static frequency_locator_workspace work;
+    thread_local frequency_locator_workspace work;
     std::vector<double> const& levels = spectrum->values;
     // A spectrum with no level at all runs through the procedure on band 0 alone.
-    locate_by_frequency<VARNO::detail::tolerant_comparison>(
+    locate_by_frequency<tolerant_comparison>(
         levels.data(), levels.size(), find_occupied_span(levels.data(), levels.size()), slope_step,
         tone_margin, work, broadband->values.data(), tones->values.data());
 }
@@ -162,7 +162,7 @@ void Calc_TonesLocFreq(boost::shared_ptr<spectrum_t> spectrum, double slope_step
 void VARNO::detail::Calc_TonesLocFreqArray(std::vector<double> const& levels, double* broadband,
                                            double* tones, double const* slope_step,
                                            double const* tone_margin) {
-    static frequency_locator_workspace work;
+    thread_local frequency_locator_workspace work;
     std::size_t const n = levels.size();
     bool const any_level = std::any_of(levels.begin(), levels.end(),
                                        [](double level) { return level > empty_band_level; });

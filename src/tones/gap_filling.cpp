@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
+using namespace VARNO::detail;
+
 // Once the tone bands are taken out of a broadband spectrum, its holes are filled in place by
 // three passes, each seeing what the one before wrote: inner gaps by linear interpolation between
 // the values on either side, then a leading gap and a trailing gap by extending the line through
@@ -16,7 +18,7 @@ namespace {
 // value.
 struct gap_value_bands {
     double gap_value;
-    bool is_gap(double level) const { return VARNO::detail::tolerantly_same(level, gap_value); }
+    bool is_gap(double level) const { return tolerantly_same(level, gap_value); }
     bool is_value(double level) const { return !is_gap(level); }
 };
 

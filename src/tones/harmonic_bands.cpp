@@ -24,7 +24,7 @@ void Calc_HarmonicBands(double fundamental, std::vector<int>& bands) {
     std::bitset<tob_band_count> touched;
     for (int harmonic = 1; harmonic <= harmonic_count; ++harmonic) {
         double const frequency = harmonic * fundamental;
-        if (!on_frequency_axis(frequency)) {
+        if (!has_band(frequency)) {
             continue;
         }
         int const band = band_number(frequency);

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <vector>
 
+using namespace VARNO::detail;
+
 // Separation that knows the fundamental: only the bands the first five harmonics can touch may
 // hold tones. Where two harmonics meet in one band, that band's energy is shared out between
 // them; each harmonic's level is then read back as a Doppler-free tone, listed, and the tone
@@ -33,7 +35,7 @@ struct harmonic_entry {
 using harmonic_table = std::array<harmonic_entry, harmonic_count>;
 
 harmonic_entry place_harmonic(double frequency) {
-    if (!on_frequency_axis(frequency)) {
+    if (!has_band(frequency)) {
         return {off_grid, off_grid, 1.0};
     }
     int const number = band_number(frequency);
@@ -43,13 +45,11 @@ harmonic_entry place_harmonic(double frequency) {
         return {index, index, 1.0};
     }
     shared_edge const edge = shared_edge_of(zone, number);
-    // The shares of a 100 dB tone, as the split gives them; the reference energy cancels out.
+    // The ratio of the shares the split gives a 100 dB tone: the ratio of the distances to the
+    // overlap's limits, rounded as the split rounds the shares of that energy.
     double const reference_energy = 1e10;
-    double const hi = edge.overlap.high;
-    double const lo = edge.overlap.low;
-    double const ratio = ((hi - frequency) * reference_energy / (hi - lo)) /
-                         ((frequency - lo) * reference_energy / (hi - lo));
-    return {edge.lower_index, edge.lower_index + 1, ratio};
+    edge_shares const shares = share_across_edge(edge.overlap, frequency, reference_energy);
+    return {edge.lower_index, edge.lower_index + 1, shares.lower / shares.upper};
 }
 
 harmonic_table place_harmonics(double fundamental) {
@@ -64,14 +64,15 @@ harmonic_table place_harmonics(double fundamental) {
 // the two neighbours in proportion to the harmonics' estimated shares of band i.
 void redistribute_shared_band(std::vector<double> const& tones, std::size_t i, double lower_ratio,
                               double upper_ratio, std::vector<double>& adjusted) {
-    double const e1 = std::pow(10.0, tones[i - 1] / 10.0) / lower_ratio;
-    double const e2 = std::pow(10.0, tones[i + 1] / 10.0) * upper_ratio;
+    double const below = energy_of_level(tones[i - 1]);
+    double const above = energy_of_level(tones[i + 1]);
+    double const e1 = below / lower_ratio;
+    double const e2 = above * upper_ratio;
     double const s = e1 / (e1 + e2);
-    double const band_energy = std::pow(10.0, tones[i] / 10.0);
-    adjusted[i - 1] = 10.0 * std::log10(band_energy * s + std::pow(10.0, tones[i - 1] / 10.0));
+    double const band_energy = energy_of_level(tones[i]);
+    adjusted[i - 1] = level_of_energy(band_energy * s + below);
     adjusted[i] = 0.0;
-    adjusted[i + 1] =
-        10.0 * std::log10(band_energy * (1 - s) + std::pow(10.0, tones[i + 1] / 10.0));
+    adjusted[i + 1] = level_of_energy(band_energy * (1 - s) + above);
 }
 
 // Settles the bands shared by two successive harmonics. Everything reads `tones`, so a band can
@@ -111,7 +112,7 @@ void settle_shared_bands(std::vector<double> const& tones, harmonic_table const&
 // Adds the energy of a level to a band, if the band is on the grid.
 void add_energy_on_grid(std::vector<double>& energies, int band, double level) {
     if (on_grid(band, energies.size())) {
-        energies[static_cast<std::size_t>(band)] += std::pow(10.0, level / 10.0);
+        energies[static_cast<std::size_t>(band)] += energy_of_level(level);
     }
 }
 
@@ -129,7 +130,7 @@ void Calc_LevelTonesInBands(boost::shared_ptr<spectrum_t> spectrum,
     int const last_band = static_cast<int>(tob_band_count) - 1;
     for (tone_id_t& tone : tones->tones) {
         double const f = tone.frequency;
-        if (!on_frequency_axis(f)) {
+        if (!has_band(f)) {
             continue;
         }
         int const number = band_number(f);
@@ -164,11 +165,10 @@ void Calc_EnscaBBTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
                        tone_sep_method_t method, double slope_step, double tone_margin,
                        boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones) {
-    using namespace VARNO::detail;
-    static boost::shared_ptr<spectrum_t> const adjusted_tones = spectrum_t::create_tob();
-    static boost::shared_ptr<spectrum_t> const unshifted_scratch = spectrum_t::create_tob();
-    static boost::shared_ptr<spectrum_t> const shifted_scratch = spectrum_t::create_tob();
-    static std::vector<int> harmonic_bands;
+    thread_local boost::shared_ptr<spectrum_t> const adjusted_tones = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const unshifted_scratch = spectrum_t::create_tob();
+    thread_local boost::shared_ptr<spectrum_t> const shifted_scratch = spectrum_t::create_tob();
+    thread_local std::vector<int> harmonic_bands;
 
     Calc_SeparateTones(spectrum, check_margin, cut_frequency, gap_value, method, slope_step,
                        tone_margin, broadband, tones);
@@ -182,8 +182,8 @@ void Calc_EnscaBBTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
         bool const harmonic_band = std::find(harmonic_bands.begin(), harmonic_bands.end(),
                                              static_cast<int>(i)) != harmonic_bands.end();
         if (harmonic_band && floor[i] + least_tone_excess_db < levels[i]) {
-            tone_levels[i] =
-                10.0 * std::log10(std::pow(10.0, 0.1 * levels[i]) - std::pow(10.0, 0.1 * floor[i]));
+            tone_levels[i] = level_of_energy(energy_of_level_tenths(levels[i]) -
+                                             energy_of_level_tenths(floor[i]));
         } else {
             tone_levels[i] = gap_value;
             floor[i] = levels[i];
@@ -211,6 +211,6 @@ void Calc_EnscaBBTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
 
     Calc_LevelTonesInBands(spectrum, tones, std::bitset<tob_band_count>());
     for (double& value : tone_levels) {
-        value = value > least_tone_energy_sum ? 10.0 * std::log10(value) : 0.0;
+        value = value > least_tone_energy_sum ? level_of_energy(value) : 0.0;
     }
 }

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace VARNO::detail;
+
 // A band is a tone when it stands above the mean of its two neighbours, that is when its
 // curvature 2*S[i] - S[i-1] - S[i+1] is positive beyond rounding noise. The last band has no
 // upper neighbour and must rise by a full decibel over the band below it. Band 0 is never a tone.
@@ -23,7 +25,6 @@ void route_band(std::size_t band, double level, bool is_tone, double* broadband,
 void Calc_TonesLocSlope(boost::shared_ptr<spectrum_t> spectrum,
                         boost::shared_ptr<spectrum_t> broadband,
                         boost::shared_ptr<spectrum_t> tones) {
-    using namespace VARNO::detail;
     std::vector<double> const& levels = spectrum->values;
     std::size_t const n = levels.size();
     double* const broadband_levels = broadband->values.data();

@@ -3,6 +3,8 @@
 #include "tones/tone_location.hpp"
 #include "tones/tone_separation.hpp"
 
+using namespace VARNO::detail;
+
 // A locator's first classification is generous. Each pass gives tone bands back to the broadband
 // floor, refills the floor, and the next pass judges the remaining tones against the new floor,
 // until a pass gives nothing back. Below the cut index a tone is judged against its neighbours in
@@ -56,9 +58,9 @@ void Calc_CheckTones(boost::shared_ptr<spectrum_t> spectrum, int k, double check
                      double gap_value, boost::shared_ptr<spectrum_t> broadband,
                      boost::shared_ptr<spectrum_t> tones) {
     std::vector<double> const& levels = spectrum->values;
-    check_tones<VARNO::detail::tolerant_comparison>(levels.data(), levels.size(), k, check_margin,
-                                                    broadband->values.data(), tones->values.data(),
-                                                    [&] { Calc_InterpSpec(broadband, gap_value); });
+    check_tones<tolerant_comparison>(levels.data(), levels.size(), k, check_margin,
+                                     broadband->values.data(), tones->values.data(),
+                                     [&] { Calc_InterpSpec(broadband, gap_value); });
 }
 
 void VARNO::detail::Calc_CheckTonesArray(std::vector<double> const& levels, int k,

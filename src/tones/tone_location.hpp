@@ -2,11 +2,10 @@
 #define CALC_COMMON_SRC_TONES_TONE_LOCATION_HPP
 
 // Internal routines of tone location: the array twins of the locators and of the gap filler, the
-// bands a fundamental's harmonics touch, and the band-edge rules all tone routines share.
+// bands a fundamental's harmonics touch, and the comparisons the tone routines share.
 
 #include "frame/numeric_helpers.hpp"
 
-#include <cmath>
 #include <vector>
 
 namespace VARNO {
@@ -18,57 +17,9 @@ constexpr double empty_band_level = 0.001;
 /// Index used for a frequency that has no band: it matches no band of the grid.
 constexpr int off_grid = -1;
 
-/// Only a positive finite frequency has a band number; anything else lies off every grid.
-inline bool on_frequency_axis(double frequency_hz) {
-    return frequency_hz > 0.0 && std::isfinite(frequency_hz);
-}
-
 /// Grid index of a frequency, or off_grid when it has no band at all.
 inline int grid_index_or_off(double frequency_hz) {
-    return on_frequency_axis(frequency_hz) ? tob_index(frequency_hz) : off_grid;
-}
-
-inline bool on_grid(int index, std::size_t band_count) {
-    return index >= 0 && index < static_cast<int>(band_count);
-}
-
-/// Where a frequency lies in its band `band`: clear of both edges, or within the factor 1.04 of
-/// the lower or the upper edge, where its energy is shared with the neighbouring band.
-enum class edge_zone { inside, lower_overlap, upper_overlap };
-
-inline edge_zone edge_zone_of(double frequency_hz, int band) {
-    if (tolerantly_above(band_lower_edge(band) * band_edge_overlap, frequency_hz)) {
-        return edge_zone::lower_overlap;
-    }
-    if (tolerantly_above(frequency_hz, band_upper_edge(band) / band_edge_overlap)) {
-        return edge_zone::upper_overlap;
-    }
-    return edge_zone::inside;
-}
-
-/// The overlap around a band edge, from edge/1.04 to edge*1.04 (Hz).
-struct edge_overlap {
-    double low;
-    double high;
-};
-
-inline edge_overlap overlap_around(double edge_hz) {
-    return {edge_hz / band_edge_overlap, edge_hz * band_edge_overlap};
-}
-
-/// The two bands that share a frequency lying in an edge overlap of band number `band`: the grid
-/// index of the lower one (the upper one follows it), and the overlap's limits.
-struct shared_edge {
-    int lower_index;
-    edge_overlap overlap;
-};
-
-inline shared_edge shared_edge_of(edge_zone zone, int band) {
-    int const index = tob_index_of_band(band);
-    if (zone == edge_zone::lower_overlap) {
-        return {index - 1, overlap_around(band_lower_edge(band))};
-    }
-    return {index, overlap_around(band_upper_edge(band))};
+    return has_band(frequency_hz) ? tob_index(frequency_hz) : off_grid;
 }
 
 /// The tones of a fundamental that count: its first five harmonics.

@@ -26,9 +26,9 @@ int Calc_SeparateTones(boost::shared_ptr<spectrum_t> spectrum, double check_marg
                        boost::shared_ptr<spectrum_t> broadband,
                        boost::shared_ptr<spectrum_t> tones);
 
-/// The same on `band_count` bare levels with plain comparisons, working on static copies that are
-/// resized only when the band count changes: the discrete-frequency locator for method 1 and the
-/// slope locator for any other value. The floor is copied to `broadband` at the end.
+/// The same on `band_count` bare levels with plain comparisons, working on per-thread copies that
+/// are resized only when the band count changes: the discrete-frequency locator for method 1 and
+/// the slope locator for any other value. The floor is copied to `broadband` at the end.
 int Calc_SeparateTonesArray(double const* levels, std::size_t band_count, double* broadband,
                             double* tones, double check_margin, double cut_frequency,
                             tone_sep_method_t method, double slope_step, double tone_margin);

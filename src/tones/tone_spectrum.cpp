@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <cmath>
 
-// A tone has one frequency, a third-octave spectrum only bands. Within the overlap around a band
-// edge, from edge/1.04 to edge*1.04, a tone's energy is shared by the two bands in linear
-// proportion to its distance from the two limits; elsewhere it all lies in its own band.
+using namespace VARNO::detail;
+
+// A tone has one frequency, a third-octave spectrum only bands: within the overlap around a band
+// edge a tone's energy is shared by the two bands, elsewhere it all lies in its own band.
 
 void Calc_SplitTone(double level, double frequency, double overlap_low, double overlap_high,
                     double* level_low, double* level_high) {
-    using namespace VARNO::detail;
     bool const in_overlap = tolerantly_below(overlap_low, overlap_high) &&
                             tolerantly_at_most(overlap_low, frequency) &&
                             tolerantly_at_most(frequency, overlap_high);
@@ -20,17 +20,17 @@ void Calc_SplitTone(double level, double frequency, double overlap_low, double o
         *level_high = 0.0;
         throw varno_calc_error("Calc_SplitTone");
     }
-    double const energy = std::pow(10.0, level / 10.0);
-    double const width = overlap_high - overlap_low;
+    edge_shares const shares =
+        share_across_edge({overlap_low, overlap_high}, frequency, energy_of_level(level));
     // A tone on a limit leaves the far band a share of zero, that is minus infinity dB.
-    *level_low = 10.0 * std::log10((overlap_high - frequency) * energy / width);
-    *level_high = 10.0 * std::log10((frequency - overlap_low) * energy / width);
+    *level_low = level_of_energy(shares.lower);
+    *level_high = level_of_energy(shares.upper);
 }
 
 namespace {
 
 void set_if_on_grid(std::vector<double>& values, int band, double level) {
-    if (VARNO::detail::on_grid(band, values.size())) {
+    if (on_grid(band, values.size())) {
         values[static_cast<std::size_t>(band)] = level;
     }
 }
@@ -39,7 +39,6 @@ void set_if_on_grid(std::vector<double>& values, int band, double level) {
 
 void Calc_ToneSpectrum(double frequency, int band, double level,
                        boost::shared_ptr<spectrum_t> spectrum) {
-    using namespace VARNO::detail;
     std::vector<double>& values = spectrum->values;
     if (!on_grid(band, values.size())) {
         spectrum->clear();

@@ -1,6 +1,7 @@
 // A user of the installed package: two spectra added by energy, the library's exception caught
 // by its type when the grids differ, a small scenario built and stepped through directions, a
-// result tree prepared and one record written to a file, and one record written to the shared log.
+// result tree prepared and one record written to a file, one record written to the shared log,
+// and the A-weighted level of a flat spectrum.
 #include <calc-common/calc-common.hpp>
 
 #include <boost/make_shared.hpp>
@@ -77,10 +78,21 @@ bool write_result_record() {
     return size == 4 + 8 * 17 + 5 * 192 + 3 * 193;
 }
 
+// A flat 60 dB third-octave spectrum weighs in at about 71.7 dB(A): the bands from 500 Hz to
+// 5 kHz, near 0 dB of weighting, dominate.
+bool a_weighted_flat_spectrum_is_plausible() {
+    boost::shared_ptr<spectrum_t> flat = spectrum_t::create_tob();
+    flat->fill_with(60.0);
+    double const level = Calc_AWeightedLevel(flat);
+    std::printf("flat 60 dB spectrum = %.2f dB(A)\n", level);
+    return level > 71.0 && level < 72.5;
+}
+
 } // namespace
 
 int main() {
-    if (!build_scenario() || !log_record_reaches_file() || !write_result_record()) {
+    if (!build_scenario() || !log_record_reaches_file() || !write_result_record() ||
+        !a_weighted_flat_spectrum_is_plausible()) {
         return 1;
     }
     boost::shared_ptr<spectrum_t> a = spectrum_t::create_tob();

@@ -23,17 +23,6 @@ TEST(TolerantComparison, DifferencesWithinRoundingCountAsEqual) {
     EXPECT_TRUE(tolerantly_below(-1e-300, 0.0));
 }
 
-TEST(LevelAddition, CutsAtOneDecibel) {
-    EXPECT_NEAR(add_levels(50.0, 50.0), 53.0103, 1e-4);
-    EXPECT_EQ(add_levels(1.0, 0.0), 0.0);
-    EXPECT_EQ(add_levels(1.0, 1.0), 0.0);
-    EXPECT_DOUBLE_EQ(add_levels(1.5, 1.0), 1.5);
-    EXPECT_DOUBLE_EQ(add_levels(-20.0, 60.0), 60.0);
-    EXPECT_DOUBLE_EQ(add_levels(std::nan(""), 40.0), 40.0);
-    // Just above the cut a level carries its energy of about 1.26.
-    EXPECT_NEAR(level_to_energy(std::nextafter(1.0, 2.0)), 1.2589, 1e-4);
-}
-
 TEST(BandArithmetic, GridIndicesAndEdges) {
     EXPECT_EQ(band_number(50.0), 17);
     EXPECT_EQ(tob_index(50.0), 0);
@@ -44,16 +33,21 @@ TEST(BandArithmetic, GridIndicesAndEdges) {
     EXPECT_EQ(band_number(56.2), 17);
     EXPECT_NEAR(band_lower_edge(30), 891.250938133746, 1e-9);
     EXPECT_NEAR(band_upper_edge(30), 1122.01845430196, 1e-9);
-    EXPECT_NEAR(sea_level_speed_of_sound, 340.294, 1e-3);
 }
 
 TEST(BandArithmetic, EnergyIsSharedLinearlyAcrossAnEdgeOverlap) {
     double const edge = band_upper_edge(30);
-    edge_shares const at_edge = shares_across_edge(edge, edge);
+    edge_overlap const overlap = overlap_around(edge);
+    edge_shares const at_edge = share_across_edge(overlap, edge, 2.0);
     // At the edge itself (a geometric centre) the shares are not quite one half each.
-    EXPECT_NEAR(at_edge.lower, (1.04 - 1.0) / (1.04 - 1.0 / 1.04), 1e-12);
-    EXPECT_NEAR(at_edge.lower + at_edge.upper, 1.0, 1e-15);
-    edge_shares const at_bottom = shares_across_edge(edge / 1.04, edge);
+    EXPECT_NEAR(at_edge.lower, 2.0 * (1.04 - 1.0) / (1.04 - 1.0 / 1.04), 1e-12);
+    EXPECT_NEAR(at_edge.lower + at_edge.upper, 2.0, 1e-15);
+    edge_shares const at_bottom = share_across_edge(overlap, edge / 1.04, 1.0);
     EXPECT_NEAR(at_bottom.lower, 1.0, 1e-15);
     EXPECT_NEAR(at_bottom.upper, 0.0, 1e-15);
+    EXPECT_EQ(edge_zone_of(edge, 30), edge_zone::upper_overlap);
+    EXPECT_EQ(edge_zone_of(1000.0, 30), edge_zone::inside);
+    EXPECT_EQ(shared_edge_of(edge_zone::lower_overlap, 30).lower_index, 12);
+    // The third-octave Butterworth band of order 3 on base 2.
+    EXPECT_NEAR(butterworth_band_q(2.0, 3, 3), 4.522294399688317, 1e-14);
 }

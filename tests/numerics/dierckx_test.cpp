@@ -140,3 +140,22 @@ TEST(Curfit, ContinuationReachesTheNewFactorFromTheOldKnots) {
 }
 
 } // namespace
+
+TEST(Curfit, AKnotRequestBeyondAnIntIsBoundedWhileADouble) {
+    // A continued fit whose last step lowered fp by one part in 1e15 asks, for a smoothing
+    // factor far below fp, for about 1e15 knots at once: the search must add at most twice the
+    // knots of its last step and go on until the smoothing condition holds.
+    Table const table(20);
+    Curfit fit(table.m(), 24);
+    fit.n = 10;
+    fit.t[4] = 6.0, fit.t[5] = 12.0;
+    fit.run(table, -1, 0.0);
+    ASSERT_EQ(fit.ier, 0);
+    fit.wrk[fit.n - 1] = 2.0 * fit.fp;           // residual of the polynomial
+    fit.wrk[fit.n - 2] = fit.fp * (1.0 + 1e-15); // residual of the knots before these
+    fit.iwrk[fit.n - 1] = 1;                     // knots added at the last step
+    double const s = fit.fp * 1e-13;
+    fit.run(table, 1, s);
+    EXPECT_EQ(fit.ier, 0);
+    EXPECT_NEAR(fit.fp, s, 0.001 * s);
+}

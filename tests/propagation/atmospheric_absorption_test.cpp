@@ -156,3 +156,14 @@ TEST(AtmosphericAbsorption, AgreesWithIso9613) {
             << f << " Hz, " << iso.temperature << " K, " << iso.relative_humidity << " %";
     }
 }
+
+TEST(AtmosphericAbsorption, BandMethodsGiveNotANumberForAFrequencyWithNoBand) {
+    auto const ambient = air(288.15, 101325.0, 70.0);
+    for (atm_abs_method_t method : {atm_abs_sae_air1845, atm_abs_arp5534}) {
+        auto absorption = listed_spectrum({std::nan(""), HUGE_VAL, 1000.0}, 0.0);
+        VARNO::TrrApi::AtmAbsCoefficients(method, 100.0, ambient, absorption);
+        EXPECT_TRUE(std::isnan(absorption->values[0])) << method;
+        EXPECT_TRUE(std::isnan(absorption->values[1])) << method;
+        EXPECT_EQ(absorption->values[2], coefficient(method, 1000.0, ambient)) << method;
+    }
+}

@@ -5,18 +5,12 @@
 
 TEST(TranspositionOptions, DefaultsHoldEverySourceTypeWithItsMeasurementDistance) {
     default_transposition_options_t const options;
+    // Measurement distance (m) of each source type, by its number.
+    double const distances[] = {10, 20, 20, 0,  0,  40, 20, 20, 20, 20, 20, 20,
+                                40, 40, 40, 40, 40, 40, 40, 40, 40, 40, 40, 40};
     ASSERT_EQ(options.single_sources.size(), 24u);
     for (auto const& entry : options.single_sources) {
-        int const type = entry.first;
-        double expected = 20.0;
-        if (type == 0) {
-            expected = 10.0;
-        } else if (type == 3 || type == 4) {
-            expected = 0.0;
-        } else if (type == 5 || type >= 12) {
-            expected = 40.0;
-        }
-        EXPECT_EQ(entry.second->source_distance, expected) << type;
+        EXPECT_EQ(entry.second->source_distance, distances[entry.first]) << entry.first;
     }
     auto const& jet = *options.single_sources.at(source_jet);
     EXPECT_FALSE(jet.source_flag_7);

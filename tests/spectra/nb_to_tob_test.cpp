@@ -96,8 +96,6 @@ TEST(NbToTob, CoarserBandsHoldTheEnergyOfTheirFinerOnes) {
     std::vector<double> octaves;
     conversion.band_levels(3, 50.0, 10000.0, thirds);
     conversion.band_levels(1, 63.0, 8000.0, octaves);
-    EXPECT_EQ(conversion.first_index_in_use, 26);
-    EXPECT_EQ(conversion.last_index_in_use, 33);
 
     auto energy = [](double level) { return std::pow(10.0, level / 10.0); };
     ASSERT_EQ(octaves.size(), 8u);

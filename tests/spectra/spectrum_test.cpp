@@ -29,7 +29,6 @@ TEST(Spectrum, LogAddSumsEnergiesWithTheOneDecibelCut) {
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_NEAR(a->values[i], rows[i].sum, 1e-12) << rows[i].a << " + " << rows[i].b;
     }
-    EXPECT_NEAR(a->values[0], 53.0103, 1e-4);
 }
 
 TEST(Spectrum, LogAddNeedsTheVerySameGridObject) {

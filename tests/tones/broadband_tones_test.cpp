@@ -157,8 +157,26 @@ TEST(ToneSeparation, AllocatesNothingAfterTheFirstCallOnAGrid) {
         Calc_DopplerizeTone(tones, broadband, 1.1, 455.0, unshifted, shifted, &shifted_frequency,
                             &level, nullptr, true, false);
     };
-    run_all(); // sizes the static workspaces for the 24-band grid
+    run_all(); // sizes this thread's workspaces for the 24-band grid
     test_support::AllocationCounter counter;
     run_all();
     EXPECT_EQ(counter.count(), 0u);
+}
+
+TEST(BroadbandTones, AToneWhoseEnergyRoundsAwayIsSilence) {
+    // With every band a tone (negative margins), band 21 gets a floor of 47.769999999999989 under
+    // its level of 47.769999999999996: the same energy, so nothing is left for a tone.
+    std::vector<double> levels(24);
+    for (std::size_t i = 0; i < 24; ++i) {
+        levels[i] = 40.0 + 0.37 * static_cast<double>(i);
+    }
+    levels[14] = 48.985283447913545;
+    levels[15] = 56.0;
+    levels[16] = 63.014716552086455;
+    boost::shared_ptr<spectrum_t> broadband = tob_filled_with(0.0);
+    boost::shared_ptr<spectrum_t> tones = tob_filled_with(0.0);
+    Calc_BBTones(tob_spectrum(levels), -1.0, 50.0, 0.0, tone_sep_discrete_frequencies_detection,
+                 9.2673767653701198, -1.0, broadband, tones);
+    ASSERT_LT(broadband->values[21], levels[21]);
+    EXPECT_EQ(tones->values[21], 0.0);
 }

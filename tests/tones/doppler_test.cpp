@@ -126,7 +126,9 @@ TEST(DopplerizeTone, NeighbouringTonesAndTheEdgesOfTheGrid) {
     doppler_outcome const summed = dopplerize(pair, 40.0, 1.0, 455.0, true, false);
     EXPECT_NEAR(summed.level, 10.0 * std::log10(energy(64.0) + energy(70.0)), 1e-12);
     EXPECT_EQ(summed.unshifted, pair);
-    EXPECT_NE(summed.shifted[9], 64.0);
+    boost::shared_ptr<spectrum_t> split = tob_filled_with(0.0);
+    Calc_ToneSpectrum(455.0, 10, summed.level, split);
+    EXPECT_EQ(summed.shifted, split->values);
 
     // The upper neighbour counts from above 0 dB, the lower from above 0.001 dB.
     std::vector<double> faint = flat_with_peak(0.0, 10, 70.0);
@@ -159,6 +161,12 @@ TEST(DopplerizeTone, NeighbouringTonesAndTheEdgesOfTheGrid) {
     EXPECT_EQ(off.shifted, std::vector<double>(24, 0.0));
     EXPECT_EQ(off.shifted_frequency, 20000.0);
     EXPECT_EQ(off.level, 65.0);
+    // A share below 0.001 dB is silence: just inside the overlap of 1122 Hz the far band is 0.0.
+    double const just_inside = std::pow(10.0, 61.0 / 20.0) / 1.04 * (1.0 + 1e-12);
+    EXPECT_EQ(
+        dopplerize(flat_with_peak(0.0, 13, 65.0), 40.0, just_inside / 1000.0, 1000.0, true, false)
+            .shifted[14],
+        0.0);
     // A frequency with no band is off the grid too.
     doppler_outcome const nowhere =
         dopplerize(flat_with_peak(0.0, 13, 65.0), 40.0, 1.0, -5.0, true, false);
