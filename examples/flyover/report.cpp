@@ -69,7 +69,9 @@ bool plot_history(flyover_t const& flyover, std::string const& csv, std::string 
        << "set multiplot layout 2,1\n"
        << "set title 'Level flyover at the microphone'\n"
        << "set xlabel 'time from overhead [s]'\nset ylabel 'level'\nset grid\n"
-       << "set key bottom center horizontal\n"
+       << "set key top left\n"
+       << "set xrange [" << flyover.samples.front().time << ':' << flyover.samples.back().time
+       << "]\n"
        << "plot '" << csv << "' every ::1 using 1:6 with lines lw 2 title 'L [dB]', "
        << "'' every ::1 using 1:7 with lines lw 2 title 'LA [dB(A)]', "
        << "'' every ::1 using 1:8 with lines lw 2 title 'PNLT [PNdB]'\n"
