@@ -46,8 +46,9 @@ struct point_calculation {
     point_ptr point;
     double fan_tone_received = 0.0;
 
-    // A fan: narrowband at the source, its tones moved by the Doppler shift, both parts carried
-    // to the microphone and kept as the source's components.
+    // A fan: narrowband at the source (kept in the whole source's first group, which the
+    // results file stores), its tones moved by the Doppler shift, both parts carried to the
+    // microphone and kept as the source's components.
     boost::shared_ptr<spectrum_t> fan(source_type_t type, int index) {
         auto const narrowband =
             illustrative_fan_source(type, path.emission_angle, fan_grid, blade_passing_frequency);

@@ -44,6 +44,7 @@ propagation_path_t trace_path(flyover_options_t const& options, double x,
     path.gain = spectrum_t::create_tob();
     auto const phase = spectrum_t::create_tob();
     double delay = 0.0;
+    // The speed of sound of an ideal gas with the heat capacity ratio and gas constant of air.
     double const sound_speed = std::sqrt(1.4 * 287.05 * ambient->temperature);
     Calc_GroundReflectionEffect(simulation->tsour->transposition_options->common_all_sources,
                                 ambient, path.distance, reflected_length, sound_speed,
