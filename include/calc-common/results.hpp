@@ -325,8 +325,8 @@ struct VARNO_CALC_COMMON_EXPORT integrated_noise_indicators_t {
     /// Every number 0, for `type`.
     explicit integrated_noise_indicators_t(boost::shared_ptr<result_type_t> type);
 
-    /// The stored value of an indicator (10, 11, 13, 14, 19, 20, 26 to 29, 31 to 46), 0.0 for
-    /// any other indicator.
+    /// The stored value of an indicator (10, 11, 13, 14, 19, 20, 26 to 46), 0.0 for any other
+    /// indicator.
     double get(indicator_type_t const& indicator) const;
     /// The exposure average of an indicator (10, 13, 19, 26, 28 to 31), 0.0 for any other.
     double get_expo_avg(indicator_type_t const& indicator) const;

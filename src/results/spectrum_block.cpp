@@ -14,15 +14,17 @@ std::size_t frequency_count(spectrum_t const& spectrum) {
 
 } // namespace
 
+// The whole block is one element, so a block of no level is an element of size 0, which is
+// never reported as transferred; it is not handed to the C library, whose buffer must exist.
 bool spectrum_t::write(std::FILE* file) const {
-    // One element of the whole block: an empty spectrum is an element of size 0, which
-    // fwrite never reports as written.
-    return std::fwrite(values.data(), values.size() * sizeof(double), 1, file) == 1;
+    return !values.empty() &&
+           std::fwrite(values.data(), values.size() * sizeof(double), 1, file) == 1;
 }
 
 bool spectrum_t::read(std::FILE* file) {
     values.resize(frequency_count(*this));
-    return std::fread(values.data(), values.size() * sizeof(double), 1, file) == 1;
+    return !values.empty() &&
+           std::fread(values.data(), values.size() * sizeof(double), 1, file) == 1;
 }
 
 std::ostream& operator<<(std::ostream& stream, boost::shared_ptr<spectrum_t> spectrum) {

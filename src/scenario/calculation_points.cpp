@@ -56,8 +56,9 @@ bool simulation_t::move_to_next_direction() {
     for (auto const& point : calculation_points) {
         zero_directional_state(*point->directional);
     }
-    // Result half of the step, to be called here: clear_directional_results() clears the
-    // result tree in place when it has one point per calculation point.
+    // The result tree is cleared in place, so that its records stay valid for the next
+    // direction; a tree made for other points is left alone.
+    clear_directional_results();
     ++direction_index;
     return true;
 }

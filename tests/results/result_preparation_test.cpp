@@ -223,3 +223,24 @@ TEST(ResultPreparation, IntegratedAircraftResultsReplaceTheTree) {
     s.simulation->clear_results();
     EXPECT_FALSE(s.simulation->result);
 }
+
+TEST(ResultPreparation, DirectionStepClearsAMatchingTreeInPlace) {
+    scenario const s(false);
+    simulation_t& simulation = *s.simulation;
+    auto const jet = s.at(1, 0);
+    auto const total = simulation.result->global->total_aircraft;
+    jet->total_tob->fill_with(60.0);
+    jet->closing_level_3 = total->epnl = 90.0;
+    simulation.direction_count = 3;
+    simulation.direction_index = 0;
+    ASSERT_TRUE(simulation.move_to_next_direction());
+    EXPECT_EQ(s.at(1, 0), jet);
+    EXPECT_EQ(jet->total_tob->values[0] + total->epnl, 0.0);
+    EXPECT_EQ(jet->closing_level_3, 90.0);
+
+    // A tree made for other points is left as it is.
+    jet->total_tob->fill_with(60.0);
+    simulation.insert_calculation_point(2);
+    ASSERT_TRUE(simulation.move_to_next_direction());
+    EXPECT_EQ(jet->total_tob->values[0], 60.0);
+}
