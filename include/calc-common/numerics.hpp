@@ -85,10 +85,15 @@ struct VARNO_CALC_COMMON_EXPORT angular_interpolation_t {
     angular_interpolation_t();
     /// Stores both as given; nothing checks that they agree.
     angular_interpolation_t(interpolator_function interpolator, angular_interpolation_type_t type);
+    /// A copy of the callable and its type.
     angular_interpolation_t(angular_interpolation_t const& other);
+    /// Takes over the callable and its type.
     angular_interpolation_t(angular_interpolation_t&& other);
+    /// Copies the callable and its type.
     angular_interpolation_t& operator=(angular_interpolation_t const& other);
+    /// Takes over the callable and its type.
     angular_interpolation_t& operator=(angular_interpolation_t&& other);
+    /// Releases the callable.
     ~angular_interpolation_t();
 
     /// Shared record of Calc_AngularInterp_Linear, built when the library is loaded.

@@ -422,7 +422,13 @@ struct VARNO_CALC_COMMON_EXPORT result_t {
 
 /// Seven switches of one family of indicators, read by the calculation libraries.
 struct VARNO_CALC_COMMON_EXPORT indicators_flag_t {
-    bool flag_0, flag_1, flag_2, flag_3, flag_4, flag_5, flag_6; ///< the switches
+    bool flag_0; ///< switch 0
+    bool flag_1; ///< switch 1
+    bool flag_2; ///< switch 2
+    bool flag_3; ///< switch 3
+    bool flag_4; ///< switch 4
+    bool flag_5; ///< switch 5
+    bool flag_6; ///< switch 6
 
     /// All seven set to `value`.
     explicit indicators_flag_t(bool value);

@@ -445,6 +445,7 @@ VARNO_CALC_COMMON_EXPORT bool is_global_decomposable_engine_source(source_type_t
 
 namespace VARNO {
 
+/// @{
 /// Display text of a value; the empty string for a value without one.
 VARNO_CALC_COMMON_EXPORT std::string StringValue(aircraft_type_t const& value);
 VARNO_CALC_COMMON_EXPORT std::string StringValue(airframe_noise_prediction_method_t const& value);
@@ -486,6 +487,7 @@ VARNO_CALC_COMMON_EXPORT std::string StringValue(tone_sep_method_t const& value)
 VARNO_CALC_COMMON_EXPORT std::string StringValue(trajectory_type_t const& value);
 VARNO_CALC_COMMON_EXPORT std::string StringValue(turbine_method_t const& value);
 VARNO_CALC_COMMON_EXPORT std::string StringValue(wecpn_method_t const& value);
+/// @}
 
 /// Description of an engine from its word of type flags, such as "Turbofan: wing-mounted".
 /// The type is the first of the flags 2 (turbofan), 4 (turboprop), 8 (propfan) that is set, or
@@ -497,6 +499,8 @@ VARNO_CALC_COMMON_EXPORT std::string EngineTypeToString(int engine_type);
 
 // ---- Stream output: writes the display text and nothing more --------------------------------
 
+/// @{
+/// Writes the display text of a value (VARNO::StringValue) and nothing more.
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, aircraft_type_t const& value);
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os,
                                                   airframe_noise_prediction_method_t const& value);
@@ -552,5 +556,6 @@ VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, tone_sep_met
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, trajectory_type_t const& value);
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, turbine_method_t const& value);
 VARNO_CALC_COMMON_EXPORT std::ostream& operator<<(std::ostream& os, wecpn_method_t const& value);
+/// @}
 
 #endif // CALC_COMMON_VOCABULARY_HPP
