@@ -170,6 +170,17 @@ def result_readers():
           header + struct.pack("<i", 0) + levels + doubles([80]) + tob_block)
 
 
+def metrics():
+    flat = [60] * 24
+    tone = [60] * 24
+    tone[13] = 75
+    ramp = [[40 + 2 * k] * 24 for k in range(5)] + [[50] * 24]
+    write("fuzz_metrics", "steady", byte(3) + nums(flat * 3) + num(0.5))
+    write("fuzz_metrics", "tone_flyover", byte(4) + nums(flat + tone + tone + flat) + num(0.5))
+    write("fuzz_metrics", "rising", byte(6) + nums(sum(ramp, [])) + num(0.25))
+    write("fuzz_metrics", "silent_nan", byte(2) + nums([0] * 24 + ["nan"] * 24) + num(1))
+
+
 if __name__ == "__main__":
     tob_conversion()
     tones()
@@ -177,3 +188,4 @@ if __name__ == "__main__":
     bspline()
     ground()
     result_readers()
+    metrics()
