@@ -12,6 +12,11 @@ constexpr double pi = 3.141592653589793;
 constexpr double degrees_to_radians = 0.017453292519943295;
 constexpr double radians_to_degrees = 57.29577951308232;
 
+// ---- Time --------------------------------------------------------------------------------
+
+constexpr double seconds_per_minute = 60.0;
+constexpr double seconds_per_hour = 3600.0;
+
 // ---- Speed of sound ------------------------------------------------------------------------
 // The speed of sound in dry air, c = sqrt(gamma R T), as three routines of the library take it.
 // Each was calibrated with its own constants, which differ from the fourth digit on; they stand

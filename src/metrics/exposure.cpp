@@ -14,12 +14,12 @@
 namespace {
 
 using VARNO::detail::not_a_number;
+using VARNO::detail::seconds_per_hour;
 
 constexpr double day_start = 7.0;      // h
 constexpr double evening_start = 19.0; // h
 constexpr double night_start = 22.0;   // h
 constexpr double hours_per_day = 24.0;
-constexpr double seconds_per_hour = 3600.0;
 
 constexpr double night_weight = 10.0;  // +10 dB
 constexpr double evening_weight = 3.0; // 10 log10(3), about +4.77 dB

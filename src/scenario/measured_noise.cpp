@@ -10,14 +10,14 @@ namespace {
 
 using VARNO::detail::pi;
 using VARNO::detail::radians_to_degrees;
+using VARNO::detail::seconds_per_hour;
+using VARNO::detail::seconds_per_minute;
 
-constexpr double seconds_per_minute = 60.0;
 constexpr double newtons_per_decanewton = 10.0;
 constexpr double decanewtons_per_kilonewton = 100.0;
 constexpr double decanewtons_per_pound_force = 0.44482216152605;
 constexpr double metres_per_foot = 0.3048;
 constexpr double metres_per_nautical_mile = 1852.0;
-constexpr double seconds_per_hour = 3600.0;
 
 // A parameter stored in the canonical unit of its family.
 struct canonical_value {
