@@ -1,6 +1,8 @@
 #include <calc-common/results.hpp>
 #include <calc-common/scenario.hpp>
 
+#include "result_test_ids.hpp"
+
 #include <boost/function.hpp>
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
@@ -9,11 +11,9 @@
 #include <string>
 #include <vector>
 
-namespace {
+using namespace result_test;
 
-noise_component_t component(int value) {
-    return static_cast<noise_component_t>(value);
-}
+namespace {
 
 boost::shared_ptr<source_t> add_source(std::vector<boost::shared_ptr<source_t>>& list,
                                        source_type_t type, int engine = 0) {
@@ -208,8 +208,8 @@ TEST(ResultPreparation, IntegratedAircraftResultsReplaceTheTree) {
     auto const& result = *s.simulation->result;
     std::vector<boost::shared_ptr<integrated_noise_indicators_t>> global;
     result.global->get_all(global);
-    EXPECT_EQ(std::count_if(global.begin(), global.end(), [](auto const& r) { return bool(r); }),
-              0);
+    EXPECT_EQ(std::count(global.begin(), global.end(), nullptr),
+              static_cast<std::ptrdiff_t>(global.size()));
     auto const& point = *result.points[1]->directional;
     EXPECT_FALSE(point.engine_sources[0]);
     EXPECT_TRUE(point.total_aircraft->option_flag);
