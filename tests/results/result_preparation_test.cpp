@@ -61,23 +61,22 @@ struct scenario {
         simulation->prepare_noise_sources_results(provider);
     }
 
-    template <class Record>
-    std::vector<std::string> texts(std::vector<boost::shared_ptr<Record>> const& records) const {
+    // The texts of the slots a tree lists, "-" for an empty one.
+    template <class Record, class Tree>
+    std::vector<std::string> texts(Tree const& tree) const {
+        std::vector<boost::shared_ptr<Record>> all;
+        tree->get_all(all);
         std::vector<std::string> result;
-        for (auto const& record : records) {
+        for (auto const& record : all) {
             result.push_back(record ? record->type->to_string(simulation) : "-");
         }
         return result;
     }
     std::vector<std::string> point_texts(std::size_t j) const {
-        std::vector<boost::shared_ptr<directional_result_noise_t>> all;
-        simulation->result->points[j]->directional->get_all(all);
-        return texts(all);
+        return texts<directional_result_noise_t>(simulation->result->points[j]->directional);
     }
     std::vector<std::string> global_texts() const {
-        std::vector<boost::shared_ptr<integrated_noise_indicators_t>> all;
-        simulation->result->global->get_all(all);
-        return texts(all);
+        return texts<integrated_noise_indicators_t>(simulation->result->global);
     }
     boost::shared_ptr<directional_result_noise_t> at(std::size_t j, int source_index,
                                                      int part = -1) const {
