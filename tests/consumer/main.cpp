@@ -1,7 +1,4 @@
-// A user of the installed package: two spectra added by energy, the library's exception caught
-// by its type when the grids differ, a small scenario built and stepped through directions, a
-// result tree prepared and one record written to a file, one record written to the shared log,
-// and the A-weighted level of a flat spectrum.
+// A user of the installed package, calling each subsystem once through the umbrella header.
 #include <calc-common/calc-common.hpp>
 
 #include <boost/make_shared.hpp>

@@ -20,16 +20,7 @@
 
 namespace {
 
-struct shared_inputs {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    boost::shared_ptr<spectrum_t> narrowband;
-    boost::shared_ptr<common_all_sources_transposition_t> ground =
-        boost::make_shared<common_all_sources_transposition_t>();
-    boost::shared_ptr<ambient_conditions_t> air = boost::make_shared<ambient_conditions_t>();
-    std::vector<double> angles;
-    std::vector<double> directivity;
-    boost::shared_ptr<simulation_t> simulation;
-};
+using spectrum_ptr = boost::shared_ptr<spectrum_t>;
 
 // A finished tree of results: engine and airframe sources at two points, prepared once.
 boost::shared_ptr<simulation_t> prepared_simulation() {
@@ -38,7 +29,7 @@ boost::shared_ptr<simulation_t> prepared_simulation() {
     for (source_type_t type : {source_jet, source_fan_forward, source_turbine}) {
         aircraft->engine_sources.push_back(boost::make_shared<source_t>(type));
     }
-    aircraft->engine_sources[1]->components[static_cast<noise_component_t>(1)] =
+    aircraft->engine_sources[1]->components[component_broadband_noise] =
         boost::make_shared<source_noise_t>();
     for (source_type_t type : {source_slats, source_other_landing_gear}) {
         aircraft->airframe_sources.push_back(boost::make_shared<source_t>(type));
@@ -53,42 +44,46 @@ boost::shared_ptr<simulation_t> prepared_simulation() {
     return simulation;
 }
 
-shared_inputs make_inputs() {
-    shared_inputs in;
-    in.spectrum->values.resize(24);
-    for (std::size_t i = 0; i < 24; ++i) {
-        in.spectrum->values[i] = 60.0 + 8.0 * std::sin(0.4 * static_cast<double>(i));
-    }
-    in.spectrum->values[9] += 12.0;
-    in.spectrum->values[15] += 9.0;
-    in.narrowband =
+struct shared_inputs {
+    spectrum_ptr spectrum = spectrum_t::create_tob();
+    spectrum_ptr narrowband =
         boost::make_shared<spectrum_t>(frequency_range_t::create_nb(20.0, 5000.0, 12.5));
-    for (std::size_t i = 0; i < in.narrowband->values.size(); ++i) {
-        in.narrowband->values[i] = 50.0 + 10.0 * std::cos(0.03 * static_cast<double>(i));
+    boost::shared_ptr<common_all_sources_transposition_t> ground =
+        boost::make_shared<common_all_sources_transposition_t>();
+    boost::shared_ptr<ambient_conditions_t> air = boost::make_shared<ambient_conditions_t>();
+    std::vector<double> angles, directivity;
+    boost::shared_ptr<simulation_t> simulation = prepared_simulation();
+
+    shared_inputs() {
+        for (std::size_t i = 0; i < 24; ++i) {
+            spectrum->values[i] = 60.0 + 8.0 * std::sin(0.4 * static_cast<double>(i));
+        }
+        spectrum->values[9] += 12.0;
+        spectrum->values[15] += 9.0;
+        for (std::size_t i = 0; i < narrowband->values.size(); ++i) {
+            narrowband->values[i] = 50.0 + 10.0 * std::cos(0.03 * static_cast<double>(i));
+        }
+        air->temperature = 288.15;
+        air->pressure = 101325.0;
+        air->relative_humidity = 70.0;
+        for (int a = 0; a <= 180; a += 10) {
+            angles.push_back(a);
+            directivity.push_back(90.0 + 6.0 * std::cos(a * 0.05));
+        }
     }
-    in.air->temperature = 288.15;
-    in.air->pressure = 101325.0;
-    in.air->relative_humidity = 70.0;
-    for (int a = 0; a <= 180; a += 10) {
-        in.angles.push_back(a);
-        in.directivity.push_back(90.0 + 6.0 * std::cos(a * 0.05));
+
+    spectrum_ptr shifted(double offset) const {
+        spectrum_ptr copy = spectrum->clone();
+        for (double& level : copy->values) {
+            level += offset;
+        }
+        return copy;
     }
-    in.simulation = prepared_simulation();
-    return in;
-}
+};
 
 using outputs = std::pair<std::vector<double>, std::vector<std::string>>;
 
-boost::shared_ptr<spectrum_t> tob_copy(shared_inputs const& in, double offset = 0.0) {
-    auto copy = spectrum_t::create_tob();
-    copy->values = in.spectrum->values;
-    for (double& level : copy->values) {
-        level += offset;
-    }
-    return copy;
-}
-
-void keep(outputs& out, boost::shared_ptr<spectrum_t> const& s) {
+void keep(outputs& out, spectrum_ptr const& s) {
     out.first.insert(out.first.end(), s->values.begin(), s->values.end());
 }
 
@@ -99,8 +94,7 @@ void tone_routines(shared_inputs const& in, int pass, outputs& out) {
     keep(out, tones);
     Calc_TonesLocFreq(in.spectrum, 2.0, 3.0, broadband, tones);
     keep(out, tones);
-    for (int method = 0; method < 2; ++method) {
-        auto const how = static_cast<tone_sep_method_t>(method);
+    for (auto how : {static_cast<tone_sep_method_t>(0), static_cast<tone_sep_method_t>(1)}) {
         out.first.push_back(
             Calc_BBTones(in.spectrum, 1.5, 100.0, 0.0, how, 2.0, 3.0, broadband, tones));
         keep(out, broadband);
@@ -130,7 +124,7 @@ void propagation(shared_inputs const& in, int pass, outputs& out) {
     }
     for (atm_abs_method_t method :
          {atm_abs_sutherland, atm_abs_arp866, atm_abs_sae_air1845, atm_abs_arp5534}) {
-        auto absorbed = tob_copy(in);
+        auto absorbed = in.shifted(0.0);
         VARNO::TrrApi::AtmAbsCorrection(method, absorbed, 500.0 + pass, in.air);
         keep(out, absorbed);
     }
@@ -157,14 +151,14 @@ void band_conversion(shared_inputs const& in, int, outputs& out) {
         keep(out, bands);
     }
     auto sum = spectrum_t::create_tob();
-    spectrum_t::log_add(in.spectrum, tob_copy(in, -3.0), sum);
+    spectrum_t::log_add(in.spectrum, in.shifted(-3.0), sum);
     keep(out, sum);
 }
 
 void noise_metrics(shared_inputs const& in, int pass, outputs& out) {
-    std::vector<boost::shared_ptr<spectrum_t>> history;
+    std::vector<spectrum_ptr> history;
     for (int k = 0; k < 11; ++k) {
-        history.push_back(tob_copy(in, 10.0 - 2.0 * std::abs(k - 5 - pass % 3)));
+        history.push_back(in.shifted(10.0 - 2.0 * std::abs(k - 5 - pass % 3)));
     }
     out.first.push_back(Calc_PerceivedNoiseLevel(history[pass % 11]));
     out.first.push_back(Calc_ToneCorrection(history[pass % 11]));
@@ -185,15 +179,15 @@ void result_tree_reads(shared_inputs const& in, int, outputs& out) {
     }
 }
 
-using task = void (*)(shared_inputs const&, int, outputs&);
-task const tasks[] = {tone_routines,   propagation,   interpolation,
-                      band_conversion, noise_metrics, result_tree_reads};
-
-std::vector<outputs> run_tasks(shared_inputs const& in, int pass) {
+// Each pass runs every family once, its outputs kept in order.
+std::vector<outputs> run_passes(shared_inputs const& in) {
     std::vector<outputs> results;
-    for (task run : tasks) {
-        results.emplace_back();
-        run(in, pass, results.back());
+    for (int pass = 0; pass < 20; ++pass) {
+        for (auto run : {tone_routines, propagation, interpolation, band_conversion, noise_metrics,
+                         result_tree_reads}) {
+            results.emplace_back();
+            run(in, pass, results.back());
+        }
     }
     return results;
 }
@@ -201,30 +195,20 @@ std::vector<outputs> run_tasks(shared_inputs const& in, int pass) {
 } // namespace
 
 TEST(ConcurrentCalculations, FourThreadsSeeWhatOneThreadSees) {
-    shared_inputs const in = make_inputs();
-    int const passes = 20;
-    std::vector<std::vector<outputs>> expected;
-    for (int pass = 0; pass < passes; ++pass) {
-        expected.push_back(run_tasks(in, pass));
-    }
-    ASSERT_FALSE(expected[0].back().second.empty());
-    std::vector<std::vector<std::vector<outputs>>> seen(4);
+    shared_inputs const in;
+    std::vector<outputs> const expected = run_passes(in);
+    ASSERT_FALSE(expected[5].second.empty());
+    std::vector<std::vector<outputs>> seen(4);
     std::vector<std::thread> threads;
     for (auto& results : seen) {
-        threads.emplace_back([&in, &results, passes] {
-            for (int pass = 0; pass < passes; ++pass) {
-                results.push_back(run_tasks(in, pass));
-            }
-        });
+        threads.emplace_back([&in, &results] { results = run_passes(in); });
     }
     for (std::thread& thread : threads) {
         thread.join();
     }
     for (auto const& results : seen) {
-        for (int pass = 0; pass < passes; ++pass) {
-            for (std::size_t t = 0; t < expected[pass].size(); ++t) {
-                EXPECT_EQ(results[pass][t], expected[pass][t]) << "task " << t << ", pass " << pass;
-            }
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            EXPECT_EQ(results[i], expected[i]) << "family " << i % 6 << ", pass " << i / 6;
         }
     }
 }

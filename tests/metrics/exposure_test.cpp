@@ -1,19 +1,14 @@
 #include <calc-common/metrics.hpp>
 
+#include "metrics_test_support.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-namespace {
+using namespace metrics_test;
 
-noise_event_t event_at(double hour, double sel, double la_max = 0.0) {
-    noise_event_t event;
-    event.time_of_day = hour;
-    event.sel = sel;
-    event.epnl = sel;
-    event.la_max = la_max;
-    return event;
-}
+namespace {
 
 double const day_seconds = 10.0 * std::log10(86400.0);
 

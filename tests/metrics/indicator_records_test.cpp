@@ -22,13 +22,7 @@ TEST(FillIndicators, FillsTheirFieldsOnlyAndAnglesWhereTheMaximaOccur) {
     EXPECT_EQ(record->psi_dba_max, 30.0);
     EXPECT_EQ(record->psi_oaspl_max, 40.0);
 
-    std::vector<noise_event_t> events(2);
-    events[0].time_of_day = 12.0;
-    events[1].time_of_day = 23.0;
-    events[0].sel = events[1].sel = 90.0;
-    events[0].la_max = 80.0;
-    events[1].la_max = 70.0;
-    Calc_FillExposure(events, 75.0, record);
+    Calc_FillExposure({event_at(12.0, 90.0, 80.0), event_at(23.0, 90.0, 70.0)}, 75.0, record);
     EXPECT_NEAR(record->dnl, 90.0 + 10.0 * std::log10(11.0 / 86400.0), 1e-9);
     EXPECT_EQ(record->na, 1.0);
     EXPECT_NEAR(record->exposure.avg_dba_max, 10.0 * std::log10((1e8 + 1e7) / 2.0), 1e-9);

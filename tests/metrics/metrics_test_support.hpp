@@ -44,6 +44,16 @@ inline std::vector<boost::shared_ptr<spectrum_t>> passby() {
     return history;
 }
 
+/// An event at `hour` of the day with the given SEL (also its EPNL) and maximum A-weighted level.
+inline noise_event_t event_at(double hour, double sel, double la_max = 0.0) {
+    noise_event_t event;
+    event.time_of_day = hour;
+    event.sel = sel;
+    event.epnl = sel;
+    event.la_max = la_max;
+    return event;
+}
+
 } // namespace metrics_test
 
 #endif // VARNO_TESTS_METRICS_METRICS_TEST_SUPPORT_HPP

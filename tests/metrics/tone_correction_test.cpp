@@ -67,11 +67,8 @@ TEST(ToneCorrection, HandWorkedToneAndBandSharedTone) {
     levels[6] = levels[7] = 76.0;
     levels[13] = 80.0;
     tone_correction_t const c = Calc_ToneCorrectionDetail(tob_spectrum(levels));
-    std::vector<double> expected_f(24, 0.0);
-    expected_f[5] = -1.0;
-    expected_f[6] = expected_f[7] = 3.0;
-    expected_f[8] = -2.0;
-    expected_f[13] = 10.0;
+    std::vector<double> const expected_f = {0, 0,  0, 0, 0, -1, 3, 3, -2, 0, 0, 0,
+                                            0, 10, 0, 0, 0, 0,  0, 0, 0,  0, 0, 0};
     for (std::size_t i = 0; i < 24; ++i) {
         EXPECT_NEAR(c.level_differences[i], expected_f[i], 1e-9) << i;
     }

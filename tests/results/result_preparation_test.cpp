@@ -1,6 +1,8 @@
 #include <calc-common/results.hpp>
 #include <calc-common/scenario.hpp>
 
+#include "result_test_ids.hpp"
+
 #include <boost/function.hpp>
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
@@ -9,11 +11,9 @@
 #include <string>
 #include <vector>
 
-namespace {
+using namespace result_test;
 
-noise_component_t component(int value) {
-    return static_cast<noise_component_t>(value);
-}
+namespace {
 
 boost::shared_ptr<source_t> add_source(std::vector<boost::shared_ptr<source_t>>& list,
                                        source_type_t type, int engine = 0) {
@@ -61,23 +61,22 @@ struct scenario {
         simulation->prepare_noise_sources_results(provider);
     }
 
-    template <class Record>
-    std::vector<std::string> texts(std::vector<boost::shared_ptr<Record>> const& records) const {
+    // The texts of the slots a tree lists, "-" for an empty one.
+    template <class Record, class Tree>
+    std::vector<std::string> texts(Tree const& tree) const {
+        std::vector<boost::shared_ptr<Record>> all;
+        tree->get_all(all);
         std::vector<std::string> result;
-        for (auto const& record : records) {
+        for (auto const& record : all) {
             result.push_back(record ? record->type->to_string(simulation) : "-");
         }
         return result;
     }
     std::vector<std::string> point_texts(std::size_t j) const {
-        std::vector<boost::shared_ptr<directional_result_noise_t>> all;
-        simulation->result->points[j]->directional->get_all(all);
-        return texts(all);
+        return texts<directional_result_noise_t>(simulation->result->points[j]->directional);
     }
     std::vector<std::string> global_texts() const {
-        std::vector<boost::shared_ptr<integrated_noise_indicators_t>> all;
-        simulation->result->global->get_all(all);
-        return texts(all);
+        return texts<integrated_noise_indicators_t>(simulation->result->global);
     }
     boost::shared_ptr<directional_result_noise_t> at(std::size_t j, int source_index,
                                                      int part = -1) const {
@@ -208,8 +207,8 @@ TEST(ResultPreparation, IntegratedAircraftResultsReplaceTheTree) {
     auto const& result = *s.simulation->result;
     std::vector<boost::shared_ptr<integrated_noise_indicators_t>> global;
     result.global->get_all(global);
-    EXPECT_EQ(std::count_if(global.begin(), global.end(), [](auto const& r) { return bool(r); }),
-              0);
+    EXPECT_EQ(std::count(global.begin(), global.end(), nullptr),
+              static_cast<std::ptrdiff_t>(global.size()));
     auto const& point = *result.points[1]->directional;
     EXPECT_FALSE(point.engine_sources[0]);
     EXPECT_TRUE(point.total_aircraft->option_flag);

@@ -3,18 +3,18 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(Aircraft, NewAircraftHasOneEngineNoSourceAndThreeAttenuationLists) {
     aircraft_t const aircraft;
     ASSERT_EQ(aircraft.engines.size(), 1u);
     EXPECT_EQ(aircraft.engines[0]->index, 0);
-    EXPECT_TRUE(aircraft.engine_sources.empty());
-    EXPECT_TRUE(aircraft.airframe_sources.empty());
+    EXPECT_TRUE(aircraft.engine_sources.empty() && aircraft.airframe_sources.empty());
     EXPECT_EQ(aircraft.total_noise->value_1, 0.0);
-    ASSERT_EQ(aircraft.attenuations->size(), 3u);
+    EXPECT_EQ(aircraft.attenuations->size(), 3u);
     // Keys compare by identity, not by pointer: a fresh key finds the entry.
-    auto const found = aircraft.attenuations->find(result_type_t::create_total_landing_gear());
-    ASSERT_NE(found, aircraft.attenuations->end());
-    EXPECT_TRUE(found->second->attenuations.empty());
+    EXPECT_TRUE(aircraft.attenuations->at(result_type_t::create_total_landing_gear())
+                    ->attenuations.empty());
     EXPECT_EQ(aircraft.attenuations->count(result_type_t::create_total_airframe()), 0u);
 }
 
@@ -30,30 +30,25 @@ TEST(Aircraft, FindsTheFirstAirframeSourceOfAType) {
 
 TEST(Aircraft, SourceStartsActiveWithoutRecordsAndKnowsItsClass) {
     source_t const cror(source_cror_propellers);
-    EXPECT_TRUE(cror.active);
-    EXPECT_EQ(cror.engine_index, 0);
+    EXPECT_TRUE(cror.active && cror.engine_index == 0);
     EXPECT_FALSE(cror.prediction_options || cror.transposition_options || cror.noise);
-    EXPECT_TRUE(cror.is_cror_engine_source());
-    EXPECT_TRUE(cror.is_global_decomposable_engine_source());
+    EXPECT_TRUE(cror.is_cror_engine_source() && cror.is_global_decomposable_engine_source());
     EXPECT_FALSE(cror.is_broadband_engine_source());
     EXPECT_TRUE(source_t(source_residual).is_broadband_engine_source());
 }
 
 TEST(Engine, DefaultsOfGeometryAndCycle) {
     engine_t const engine(3);
-    EXPECT_EQ(engine.index, 3);
-    EXPECT_EQ(engine.value_type, 2);
-    EXPECT_EQ(engine.selector, 1);
-    EXPECT_EQ(engine.second_selector, -1);
-    EXPECT_EQ(engine.geometry->value_2, 50.0);
-    EXPECT_EQ(engine.geometry->shift_value, -100);
-    EXPECT_EQ(engine.geometry->value_15, 1.0);
-    EXPECT_EQ(engine.geometry->spool_down_law->value_8, 0.5);
+    auto const& geometry = *engine.geometry;
+    EXPECT_EQ(std::make_tuple(engine.index, engine.value_type, engine.selector,
+                              engine.second_selector, geometry.shift_value),
+              std::make_tuple(3, 2, 1, -1, -100));
+    EXPECT_EQ(
+        std::make_tuple(geometry.value_2, geometry.value_15, geometry.spool_down_law->value_8),
+        std::make_tuple(50.0, 1.0, 0.5));
     auto& thermo = *engine.thermo_effects;
-    EXPECT_TRUE(thermo.enabled);
+    EXPECT_TRUE(thermo.enabled && thermo.description.empty() && !thermo.callback);
     EXPECT_EQ(thermo.code, "000");
-    EXPECT_TRUE(thermo.description.empty());
-    EXPECT_FALSE(thermo.callback);
     EXPECT_TRUE(thermo.parameters[3]);
     EXPECT_NE(thermo.parameters[0], thermo.parameters[1]);
     EXPECT_EQ(thermo.user_segment_count(), 0u);
@@ -61,10 +56,9 @@ TEST(Engine, DefaultsOfGeometryAndCycle) {
 
 TEST(Engine, SetSegmentsAppendsToBothLists) {
     thermo_effects_t thermo;
-    thermo.set_segments(3);
-    thermo.set_segments(3);
-    thermo.set_segments(-1);
-    thermo.set_segments(0);
+    for (int count : {3, 3, -1, 0}) {
+        thermo.set_segments(count);
+    }
     EXPECT_EQ(thermo.user_segment_count(), 6u);
     EXPECT_EQ(thermo.second_user_segments.size(), 6u);
     EXPECT_NE(thermo.user_segments[0], thermo.user_segments[5]);
@@ -72,8 +66,8 @@ TEST(Engine, SetSegmentsAppendsToBothLists) {
 
 TEST(AircraftGeometry, SubRecordsAndAddedPartsKeepArgumentOrder) {
     aircraft_geometry_t geometry;
-    EXPECT_EQ(geometry.flap_count_value, 2);
-    EXPECT_EQ(geometry.slat_count_value, 4);
+    EXPECT_EQ(std::make_tuple(geometry.flap_count_value, geometry.slat_count_value),
+              std::make_tuple(2, 4));
     EXPECT_TRUE(geometry.fourth_landing_gear && geometry.second_flap && geometry.slats[3]);
     geometry.add_spoiler(1.0, 2.0);
     EXPECT_EQ(geometry.spoilers.at(0)->value_2, 2.0);
@@ -81,8 +75,8 @@ TEST(AircraftGeometry, SubRecordsAndAddedPartsKeepArgumentOrder) {
     gear.add_unequipped_cylinder(1.0, 2.0, 3.0, 4.0);
     gear.add_equipped_cylinder(5.0, 6.0, 7.0);
     auto const& bare = *gear.unequipped_cylinders.at(0);
-    EXPECT_EQ(std::vector<double>({bare.value_1, bare.value_2, bare.value_3, bare.value_4}),
-              std::vector<double>({1.0, 2.0, 3.0, 4.0}));
+    EXPECT_EQ(std::make_tuple(bare.value_1, bare.value_2, bare.value_3, bare.value_4),
+              std::make_tuple(1.0, 2.0, 3.0, 4.0));
     EXPECT_EQ(gear.equipped_cylinders.at(0)->value_3, 7.0);
 
     aero_data_t aero;
@@ -101,9 +95,8 @@ TEST(MeasuredNoise, NewRecordHoldsItsElements) {
     EXPECT_NE(noise.elements[0], noise.elements[1]);
     EXPECT_TRUE(noise.elements[0]->power_management->empty());
     EXPECT_FALSE(noise.elements[0]->ambient_conditions);
-    EXPECT_TRUE(noise.first_switch);
-    EXPECT_EQ(noise.selector, 1);
-    EXPECT_EQ(noise.value, 0.0);
+    EXPECT_EQ(std::make_tuple(noise.first_switch, noise.selector, noise.value),
+              std::make_tuple(true, 1, 0.0));
 }
 
 TEST(MeasuredNoise, PowerSettingsAreStoredInTheCanonicalUnitOfTheirFamily) {
@@ -135,10 +128,9 @@ TEST(MeasuredNoise, PowerSettingsAreStoredInTheCanonicalUnitOfTheirFamily) {
             static_cast<power_management_parameter_unit_t>(r.unit));
         ASSERT_EQ(element.power_management->size(), 1u) << r.type;
         auto const& entry = *element.power_management->begin();
-        EXPECT_EQ(entry.first.first, r.type);
-        EXPECT_EQ(entry.first.second, r.stored_unit) << r.type;
+        EXPECT_EQ(std::make_tuple(entry.first.first, entry.first.second, entry.second->unit),
+                  std::make_tuple(r.type, r.stored_unit, r.stored_unit));
         EXPECT_DOUBLE_EQ(entry.second->value, r.stored_value) << r.type;
-        EXPECT_EQ(entry.second->unit, r.stored_unit) << r.type;
     }
 }
 

@@ -4,8 +4,7 @@
 #include <gtest/gtest.h>
 
 TEST(Attenuation, CloneCopiesTheListButSharesTheData) {
-    attenuation_list_t empty;
-    auto const empty_copy = empty.clone();
+    auto const empty_copy = attenuation_list_t().clone();
     ASSERT_TRUE(empty_copy);
     EXPECT_TRUE(empty_copy->attenuations.empty());
 
@@ -25,8 +24,7 @@ TEST(Attenuation, CloneCopiesTheListButSharesTheData) {
 }
 
 TEST(Attenuation, SpectrumAttenuationHoldsEmptySlots) {
-    spectrum_attenuation_t const none;
-    EXPECT_TRUE(none.attenuation_spectra_1.empty());
+    EXPECT_TRUE(spectrum_attenuation_t().attenuation_spectra_1.empty());
     spectrum_attenuation_t const three(3);
     ASSERT_EQ(three.attenuation_spectra_2.size(), 3u);
     EXPECT_FALSE(three.attenuation_spectra_1[2]);
@@ -34,13 +32,13 @@ TEST(Attenuation, SpectrumAttenuationHoldsEmptySlots) {
 
 TEST(Attenuation, MapKeysAreResultIdentities) {
     attenuations_t map;
-    map[result_type_t::create_total_landing_gear()] = boost::make_shared<attenuation_list_t>();
-    map[result_type_t::create_total_engine()] = boost::make_shared<attenuation_list_t>();
-    map[result_type_t::create_airframe_source(source_slats, 2)] =
-        boost::make_shared<attenuation_list_t>();
-    // Same identity, other source type: the same key.
-    map[result_type_t::create_airframe_source(source_flaps, 2)] =
-        boost::make_shared<attenuation_list_t>();
+    // The last key has the identity of the one before it with another source type: the same key.
+    for (auto key :
+         {result_type_t::create_total_landing_gear(), result_type_t::create_total_engine(),
+          result_type_t::create_airframe_source(source_slats, 2),
+          result_type_t::create_airframe_source(source_flaps, 2)}) {
+        map[key] = boost::make_shared<attenuation_list_t>();
+    }
     ASSERT_EQ(map.size(), 3u);
     EXPECT_EQ(map.begin()->first->hash(), 20002u);
     EXPECT_EQ(map.rbegin()->first->hash(), 30200u);

@@ -12,6 +12,13 @@ boost::shared_ptr<simulation_t> simulation_with_points(std::size_t count) {
     return simulation;
 }
 
+// Sets the simulation stepping from the first of `count` directions.
+boost::shared_ptr<simulation_t> stepping(boost::shared_ptr<simulation_t> simulation, int count) {
+    simulation->direction_count = count;
+    simulation->direction_index = 0;
+    return simulation;
+}
+
 std::vector<int> indices(simulation_t const& simulation) {
     std::vector<int> result;
     for (auto const& point : simulation.calculation_points) {
@@ -27,13 +34,13 @@ TEST(CalculationPoints, NewPointHasARatingPerEngineAndZeroState) {
     aircraft->engines.push_back(boost::make_shared<engine_t>(1));
     calculation_point_t const point(aircraft, 7);
     EXPECT_EQ(point.index, 7);
+    EXPECT_EQ(point.directional->value_6, 1.0);
+    EXPECT_EQ(point.directional->value_5, 0.0);
     ASSERT_EQ(point.omnidir->engine_ratings.size(), 2u);
     EXPECT_NE(point.omnidir->engine_ratings[0], point.omnidir->engine_ratings[1]);
     EXPECT_EQ(point.omnidir->engine_ratings[1]->net_thrust, 0.0);
     EXPECT_NE(point.omnidir->first_ambient, point.omnidir->second_ambient);
     EXPECT_TRUE(point.omnidir->source_values.empty());
-    EXPECT_EQ(point.directional->value_6, 1.0);
-    EXPECT_EQ(point.directional->value_5, 0.0);
     aircraft->engines.push_back(boost::make_shared<engine_t>(2));
     EXPECT_EQ(point.omnidir->engine_ratings.size(), 2u);
 }
@@ -59,10 +66,7 @@ TEST(CalculationPoints, InsertionRenumbersTheLaterPoints) {
 }
 
 TEST(DirectionStepping, RefusedWithoutPointsOrWhileNotStepping) {
-    auto const empty = simulation_with_points(0);
-    empty->direction_count = 3;
-    empty->direction_index = 0;
-    EXPECT_FALSE(empty->move_to_next_direction());
+    EXPECT_FALSE(stepping(simulation_with_points(0), 3)->move_to_next_direction());
 
     auto const simulation = simulation_with_points(2);
     simulation->direction_count = 5;
@@ -70,17 +74,12 @@ TEST(DirectionStepping, RefusedWithoutPointsOrWhileNotStepping) {
     EXPECT_EQ(simulation->direction_index, -1);
     EXPECT_EQ(simulation->calculation_points[0]->directional->value_6, 1.0);
 
-    for (int count : {0, 1}) {
-        simulation->direction_count = count;
-        simulation->direction_index = 0;
-        EXPECT_FALSE(simulation->move_to_next_direction()) << count;
-    }
+    EXPECT_FALSE(stepping(simulation, 0)->move_to_next_direction());
+    EXPECT_FALSE(stepping(simulation, 1)->move_to_next_direction());
 }
 
 TEST(DirectionStepping, StepsToTheLastDirectionAndClearsTheDirectionalState) {
-    auto const simulation = simulation_with_points(2);
-    simulation->direction_count = 3;
-    simulation->direction_index = 0;
+    auto const simulation = stepping(simulation_with_points(2), 3);
     auto& directional = *simulation->calculation_points[1]->directional;
     directional.value_22 = 4.0;
     auto const before = simulation->calculation_points[1]->directional;

@@ -3,18 +3,17 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(Environment, AddedObjectsAreSharedWithTheCaller) {
     environment_t environment;
     auto const aircraft = environment.add_aircraft();
     auto const tsour = environment.add_tsour_calculation();
     auto const simulation = environment.add_tsour_simulation(aircraft, tsour);
-    EXPECT_EQ(environment.aircraft.at(0), aircraft);
-    EXPECT_EQ(environment.simulations.at(0), simulation);
-    EXPECT_EQ(simulation->aircraft, aircraft);
-    EXPECT_EQ(simulation->tsour, tsour);
-
     environment_t const copy = environment;
-    EXPECT_EQ(copy.simulations.at(0), simulation);
+    EXPECT_EQ(std::make_tuple(environment.aircraft.at(0), copy.simulations.at(0),
+                              simulation->aircraft, simulation->tsour),
+              std::make_tuple(aircraft, simulation, aircraft, tsour));
 
     // Nothing checks that the parts belong to the environment, or exist.
     environment.add_tsour_simulation(nullptr, tsour);
@@ -50,13 +49,13 @@ TEST(Environment, ScalingsCompareTwoEngines) {
     environment_t environment;
     auto const scaling = environment.add_scaling();
     ASSERT_EQ(scaling->engines.size(), 2u);
-    EXPECT_EQ(scaling->engines[0]->index, 0);
-    EXPECT_EQ(scaling->engines[1]->index, 1);
+    EXPECT_EQ(std::make_tuple(scaling->engines[0]->index, scaling->engines[1]->index),
+              std::make_tuple(0, 1));
     ASSERT_EQ(scaling->attenuations.size(), 2u);
     EXPECT_NE(scaling->attenuations[0], scaling->attenuations[1]);
     auto const calculation = environment.add_scaling_calculation();
-    EXPECT_EQ(calculation->selector, 1);
-    EXPECT_EQ(calculation->ambient_conditions->temperature, 0.0);
+    EXPECT_EQ(std::make_tuple(calculation->selector, calculation->ambient_conditions->temperature),
+              std::make_tuple(1, 0.0));
     auto const run = environment.add_scaling_simulation(scaling, calculation);
     EXPECT_EQ(run->scaling, scaling);
     EXPECT_TRUE(run->results && run->results->engine_noise.empty());
@@ -70,28 +69,25 @@ TEST(Calculations, DefaultsOfTheTwoKinds) {
     EXPECT_EQ(tsour.transposition_options->total_aircraft->source_option_2, 0);
 
     nlcp_calculation_t const nlcp;
-    EXPECT_EQ(nlcp.type, nlcp_static_apu_noise);
-    EXPECT_EQ(nlcp.selector, -1);
-    EXPECT_EQ(nlcp.transposition_options->total_aircraft->source_option_2, 1);
-    EXPECT_EQ(nlcp.transposition_options->total_aircraft->source_distance, 20.0);
+    auto const& total = *nlcp.transposition_options->total_aircraft;
+    EXPECT_EQ(
+        std::make_tuple(nlcp.type, nlcp.selector, total.source_option_2, total.source_distance),
+        std::make_tuple(nlcp_static_apu_noise, -1, 1, 20.0));
 }
 
 TEST(Simulation, FactoriesSetOneCalculationAndTheSharedLinearInterpolator) {
     auto const aircraft = boost::make_shared<aircraft_t>();
     auto const tsour =
         simulation_t::create_tsour(aircraft, boost::make_shared<tsour_calculation_t>());
-    EXPECT_EQ(tsour->calculation_type, calculation_noise_sources);
-    EXPECT_FALSE(tsour->nlcp);
-    EXPECT_EQ(tsour->direction_index, -1);
-    EXPECT_EQ(tsour->direction_count, 0);
-    EXPECT_TRUE(tsour->first_switch);
-    EXPECT_FALSE(tsour->second_switch || tsour->result);
+    EXPECT_EQ(
+        std::make_tuple(tsour->calculation_type, tsour->direction_index, tsour->direction_count),
+        std::make_tuple(calculation_noise_sources, -1, 0));
+    EXPECT_TRUE(tsour->first_switch && !tsour->second_switch && !tsour->result && !tsour->nlcp);
     EXPECT_EQ(tsour->angular_interpolation.get(), angular_interpolation_t::linear.get());
 
     auto const nlcp = simulation_t::create_nlcp(aircraft, boost::make_shared<nlcp_calculation_t>());
     EXPECT_EQ(nlcp->calculation_type, calculation_integrated_aircraft_noise);
-    EXPECT_FALSE(nlcp->tsour);
-    EXPECT_EQ(nlcp->aircraft, aircraft);
+    EXPECT_TRUE(!nlcp->tsour && nlcp->aircraft == aircraft);
 }
 
 namespace {

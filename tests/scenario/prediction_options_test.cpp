@@ -10,28 +10,23 @@ TEST(PredictionOptions, EachDefaultRecordNamesItsSourceKind) {
         source_prediction_t const* record;
         source_type_t type;
     };
-    row const rows[] = {
-        {options.jet.get(), source_jet},
-        {options.turbine.get(), source_turbine},
-        {options.fwd_fan.get(), source_fan_forward},
-        {options.aft_fan.get(), source_fan_aft},
-        {options.compressor.get(), source_compressor},
-        {options.combustion.get(), source_combustion},
-        {options.bsn.get(), source_fan_forward_buzz_saw},
-        {options.slats.get(), source_slats},
-        {options.flaps.get(), source_flaps},
-        {options.wing.get(), source_clean_wing},
-        {options.cavity_in.get(), source_inboard_cavity},
-        {options.cavity_out.get(), source_outboard_cavity},
-        {options.empennage.get(), source_empennage},
-        {options.nlg.get(), source_nose_landing_gear},
-        {options.mlg.get(), source_main_landing_gear},
-        {options.clg.get(), source_other_landing_gear},
-        {options.extraneous.get(), source_extraneous_airframe},
-        {options.nai.get(), source_nai},
-        {options.spoiler.get(), source_spoiler},
-    };
-    for (auto const& r : rows) {
+    for (row const r :
+         {row{options.jet.get(), source_jet}, row{options.turbine.get(), source_turbine},
+          row{options.fwd_fan.get(), source_fan_forward},
+          row{options.aft_fan.get(), source_fan_aft},
+          row{options.compressor.get(), source_compressor},
+          row{options.combustion.get(), source_combustion},
+          row{options.bsn.get(), source_fan_forward_buzz_saw},
+          row{options.slats.get(), source_slats}, row{options.flaps.get(), source_flaps},
+          row{options.wing.get(), source_clean_wing},
+          row{options.cavity_in.get(), source_inboard_cavity},
+          row{options.cavity_out.get(), source_outboard_cavity},
+          row{options.empennage.get(), source_empennage},
+          row{options.nlg.get(), source_nose_landing_gear},
+          row{options.mlg.get(), source_main_landing_gear},
+          row{options.clg.get(), source_other_landing_gear},
+          row{options.extraneous.get(), source_extraneous_airframe},
+          row{options.nai.get(), source_nai}, row{options.spoiler.get(), source_spoiler}}) {
         ASSERT_NE(r.record, nullptr) << r.type;
         EXPECT_EQ(r.record->source_type, r.type);
         EXPECT_FALSE(r.record->adjusted) << r.type;
