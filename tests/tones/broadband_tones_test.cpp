@@ -45,11 +45,7 @@ separated bb_tones(std::vector<double> const& levels, double cut_frequency, int 
                                static_cast<tone_sep_method_t>(method), 2.0, 3.0, broadband, tones);
     EXPECT_EQ(tones->tones.size(), 1u) << "the tone list is left alone";
     EXPECT_TRUE(broadband->tones.empty());
-    separated split;
-    split.broadband = broadband->values;
-    split.tones = tones->values;
-    split.k = k;
-    return split;
+    return {{broadband->values, tones->values}, k};
 }
 
 } // namespace
