@@ -32,13 +32,13 @@ TEST(Pchip, DerivativesPreserveShape) {
     EXPECT_EQ(std::vector<double>(d.begin() + 1, d.begin() + 4), std::vector<double>(3, 0.0));
 
     // On 0, 1, 2 the end formula is 1.5 times the end chord less 0.5 times the next. A sharp turn
-    // after the first chord limits its 1.5 + 2.5 to 3 * 1; chords 1, 4 give -0.5 against the end
+    // after the first chord limits its 1.5 + 1.75 to 3 * 1; chords 1, 4 give -0.5 against the end
     // chord's sign, which is set to 0. Two points: both derivatives are the chord.
     double xs[] = {0.0, 1.0, 2.0};
     struct row {
         int n;
         double f[3], d[3];
-    } const rows[] = {{3, {0.0, 1.0, -4.0}, {3.0, 0.0, -8.0}},
+    } const rows[] = {{3, {0.0, 1.0, -2.5}, {3.0, 0.0, -5.75}},
                       {3, {0.0, 1.0, 5.0}, {0.0, 1.6, 5.5}},
                       {2, {0.0, 1.0, 0.0}, {1.0, 1.0, 0.0}}};
     for (row const& r : rows) {
