@@ -27,8 +27,7 @@ akima_run run(double const* x, double const* y, std::size_t n, bool extrapolate,
               std::vector<double> const& xi) {
     akima_run out{std::vector<double>(xi.size(), 77.0), std::vector<double>(xi.size(), 77.0),
                   std::vector<double>(std::max(n, xi.size()), 77.0)};
-    std::size_t const ni = xi.size();
-    Calc_ParabolicInterp(x, y, n, extrapolate, xi.data(), ni, out.yi.data(), out.dyi.data(),
+    Calc_ParabolicInterp(x, y, n, extrapolate, xi.data(), xi.size(), out.yi.data(), out.dyi.data(),
                          out.slopes.data());
     return out;
 }
@@ -77,9 +76,11 @@ TEST(ParabolicInterp, WithoutExtrapolationClampsAndLeavesDerivativesAlone) {
 
 TEST(ParabolicInterp, QueriesAreSweptForwardOnly) {
     // A query that steps back is evaluated on the current interval's cubic, continued: 2 on the
-    // cubic of [3, 7] is 9 - 6 + 5/4 + 1/16, not the 4 of its own interval.
-    akima_run const back = run(square_x, square_y, square_n, true, {5.0, 2.0});
-    EXPECT_NEAR(back.yi[1], 4.3125, 1e-13);
+    // cubic of [3, 7] is 9 - 6 + 5/4 + 1/16, not the 4 of its own interval. A query on a knot
+    // (3) stays on the interval that ends there, so the step back after it still reads 4.
+    akima_run const back = run(square_x, square_y, square_n, true, {3.0, 2.0, 5.0, 2.0});
+    EXPECT_NEAR(back.yi[1], 4.0, 1e-13);
+    EXPECT_NEAR(back.yi[3], 4.3125, 1e-13);
 }
 
 TEST(ParabolicInterp, CollinearDataAndThreePointTables) {

@@ -31,15 +31,21 @@ TEST(Pchip, DerivativesPreserveShape) {
     std::vector<double> const d = derivatives();
     EXPECT_EQ(std::vector<double>(d.begin() + 1, d.begin() + 4), std::vector<double>(3, 0.0));
 
-    // A sharp turn after the first chord: the end formula's 1.5 + 2.5 is limited to 3 * 1.
+    // On 0, 1, 2 the end formula is 1.5 times the end chord less 0.5 times the next. A sharp turn
+    // after the first chord limits its 1.5 + 1.75 to 3 * 1; chords 1, 4 give -0.5 against the end
+    // chord's sign, which is set to 0. Two points: both derivatives are the chord.
     double xs[] = {0.0, 1.0, 2.0};
-    double fs[] = {0.0, 1.0, -4.0};
-    double dr[3];
-    spline_pchip_set(3, xs, fs, dr);
-    EXPECT_NEAR(dr[0], 3.0, 1e-14);
-    // Two points: both derivatives are the chord.
-    spline_pchip_set(2, xs, fs, dr);
-    EXPECT_TRUE(dr[0] == 1.0 && dr[1] == 1.0);
+    struct row {
+        int n;
+        double f[3], d[3];
+    } const rows[] = {{3, {0.0, 1.0, -2.5}, {3.0, 0.0, -5.75}},
+                      {3, {0.0, 1.0, 5.0}, {0.0, 1.6, 5.5}},
+                      {2, {0.0, 1.0, 0.0}, {1.0, 1.0, 0.0}}};
+    for (row const& r : rows) {
+        double f[3] = {r.f[0], r.f[1], r.f[2]}, dr[3] = {0.0, 0.0, 0.0};
+        spline_pchip_set(r.n, xs, f, dr);
+        EXPECT_EQ(std::vector<double>(dr, dr + 3), std::vector<double>(r.d, r.d + 3)) << r.f[2];
+    }
 }
 
 TEST(Pchip, BatchEvaluationAgreesWithSingleQueriesInAnyOrder) {

@@ -13,18 +13,14 @@
 
 namespace {
 
+template <std::size_t N>
+std::vector<double> copied(double const (&values)[N]) {
+    return std::vector<double>(std::begin(values), std::end(values));
+}
+
 // A table and its queries in the mutable arrays that Calc_Spline takes.
 struct spline_case {
     std::vector<double> x, y, queries, expected;
-
-    template <std::size_t N, std::size_t Q>
-    spline_case(double const (&x_)[N], double const (&y_)[N], double const (&q)[Q],
-                double const (&values)[Q])
-        : x(std::begin(x_), std::end(x_))
-        , y(std::begin(y_), std::end(y_))
-        , queries(std::begin(q), std::end(q))
-        , expected(std::begin(values), std::end(values)) {}
-
     int n() const { return static_cast<int>(x.size()); }
     double at(double q, spline_type type) { return Calc_Spline(n(), x.data(), y.data(), q, type); }
 };
@@ -35,8 +31,10 @@ void expect_agrees(double actual, double reference, double query) {
 }
 
 #define SPLINE_CASE(name)                                                                          \
-    spline_case(spline_reference::name##_x, spline_reference::name##_y,                            \
-                spline_reference::name##_queries, spline_reference::name##_values)
+    spline_case {                                                                                  \
+        copied(spline_reference::name##_x), copied(spline_reference::name##_y),                    \
+            copied(spline_reference::name##_queries), copied(spline_reference::name##_values)      \
+    }
 
 } // namespace
 

@@ -30,6 +30,8 @@ boost::shared_ptr<spectrum_t> listed_spectrum(std::vector<double> const& frequen
     return spectrum;
 }
 
+boost::shared_ptr<ambient_conditions_t> const ambient = air(288.15, 101325.0, 70.0);
+
 // Coefficient in dB/100 m of `method` at one frequency.
 double coefficient(atm_abs_method_t method, double frequency,
                    boost::shared_ptr<ambient_conditions_t> ambient, double distance = 100.0) {
@@ -57,7 +59,6 @@ TEST(AtmosphericAbsorption, EveryMethodFollowsItsFormula) {
 }
 
 TEST(AtmosphericAbsorption, UnusableFrequenciesAndLevelsStayInTheirElement) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
     double const nan = std::nan("");
     for (auto method : {atm_abs_sutherland, atm_abs_arp866, atm_abs_sae_air1845, atm_abs_arp5534}) {
         auto absorption = listed_spectrum({0.0, -1000.0, 1000.0}, 55.0);
@@ -91,7 +92,6 @@ TEST(AtmosphericAbsorption, UnknownMethodLeavesTheSpectrumAlone) {
 }
 
 TEST(AtmosphericAbsorption, FrequenciesComeFromAnyKindOfGrid) {
-    auto const ambient = air(293.15, 101325.0, 50.0);
     // A narrowband grid starting at 0 Hz: the first line is not absorbed.
     auto narrowband =
         boost::make_shared<spectrum_t>(frequency_range_t::create_nb(0.0, 300.0, 100.0));
@@ -101,36 +101,28 @@ TEST(AtmosphericAbsorption, FrequenciesComeFromAnyKindOfGrid) {
     EXPECT_NEAR(narrowband->values[3],
                 60.0 - coefficient(atm_abs_sutherland, 300.0, ambient) * 10.0, 1e-12);
 
+    // The AIR 1845 table reads nothing of the air, so none need be given; its top band runs to
+    // 11.2 kHz.
     auto third_octave = spectrum_t::create_tob();
-    VARNO::TrrApi::AtmAbsCoefficients(atm_abs_sae_air1845, 100.0, ambient, third_octave);
+    VARNO::TrrApi::AtmAbsCoefficients(atm_abs_sae_air1845, 100.0, nullptr, third_octave);
     EXPECT_EQ(third_octave->values[0], 0.033);
     EXPECT_EQ(third_octave->values[23], 9.836);
-}
-
-TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
-    // A listed centre is matched within 1 mHz and rated at its effective frequency.
-    EXPECT_GT(coefficient(atm_abs_arp866, 5000.0, ambient), 1.0);
-    EXPECT_EQ(coefficient(atm_abs_arp866, 5000.0005, ambient),
-              coefficient(atm_abs_arp866, 5000.0, ambient));
-    // An unlisted frequency above 4 kHz falls back to a rating frequency of 0.033 Hz.
-    EXPECT_LT(coefficient(atm_abs_arp866, 4999.0, ambient), 1e-3);
-    EXPECT_LT(coefficient(atm_abs_arp866, 6000.0, ambient), 1e-3);
-}
-
-TEST(AtmosphericAbsorption, Air1845IsAFixedTableOfTheBand) {
-    // The table reads nothing of the air, so none need be given; the band runs to 11.2 kHz.
-    EXPECT_EQ(coefficient(atm_abs_sae_air1845, 1100.0, nullptr), 0.59);
     EXPECT_EQ(coefficient(atm_abs_sae_air1845, 11200.0, nullptr), 9.836);
 }
 
+TEST(AtmosphericAbsorption, Arp866RatesHighBandsAtTheirEffectiveFrequency) {
+    // A listed centre is matched within 1 mHz and rated at its effective frequency (5 kHz in the
+    // reference table); an unlisted frequency above 4 kHz (there 6 kHz) falls back to a rating
+    // frequency of 0.033 Hz.
+    EXPECT_EQ(coefficient(atm_abs_arp866, 5000.0005, ambient),
+              coefficient(atm_abs_arp866, 5000.0, ambient));
+    EXPECT_LT(coefficient(atm_abs_arp866, 4999.0, ambient), 1e-3);
+}
+
 TEST(AtmosphericAbsorption, Arp5534IsABandLossOverThePath) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
     // One coefficient for the whole band.
     EXPECT_EQ(coefficient(atm_abs_arp5534, 900.0, ambient, 500.0),
               coefficient(atm_abs_arp5534, 1100.0, ambient, 500.0));
-    EXPECT_NE(coefficient(atm_abs_arp5534, 1000.0, ambient, 500.0),
-              coefficient(atm_abs_arp5534, 1000.0, ambient, 5000.0));
     // A path of zero length has no defined band loss.
     auto absorption = listed_spectrum({1000.0}, 0.0);
     VARNO::TrrApi::AtmAbsCoefficients(atm_abs_arp5534, 0.0, ambient, absorption);
@@ -158,7 +150,6 @@ TEST(AtmosphericAbsorption, AgreesWithIso9613) {
 }
 
 TEST(AtmosphericAbsorption, BandMethodsGiveNotANumberForAFrequencyWithNoBand) {
-    auto const ambient = air(288.15, 101325.0, 70.0);
     for (atm_abs_method_t method : {atm_abs_sae_air1845, atm_abs_arp5534}) {
         auto absorption = listed_spectrum({std::nan(""), HUGE_VAL, 1000.0}, 0.0);
         VARNO::TrrApi::AtmAbsCoefficients(method, 100.0, ambient, absorption);

@@ -4,6 +4,7 @@
 
 #include "reference_data.hpp"
 #include "support/allocation_counter.hpp"
+#include "support/error_text.hpp"
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
@@ -123,14 +124,10 @@ TEST(GroundReflection, LayerOfZeroThicknessGivesNotANumber) {
 TEST(GroundReflection, InvalidGroundIsReportedWithItsValue) {
     ground_call call(tob_frequency_range_ptr);
     call.effect->fill_with(42.0);
-    try {
-        call.run(8, 1.0, 3.0);
-        FAIL() << "no error raised";
-    } catch (varno_calc_error const& error) {
-        EXPECT_EQ(std::string(error.what()), "Invalid ground type: 8.");
-    }
+    EXPECT_EQ(test_support::error_text([&] { call.run(8, 1.0, 3.0); }), "Invalid ground type: 8.");
     EXPECT_EQ(call.effect->values[0], 42.0);
-    EXPECT_THROW(call.run(-3, 10.0, 30.0), varno_calc_error);
+    EXPECT_EQ(test_support::error_text([&] { call.run(-3, 10.0, 30.0); }),
+              "Invalid ground type: -3.");
 }
 
 TEST(GroundReflection, DelanyBazleyGroundParameters) {
@@ -147,11 +144,10 @@ TEST(GroundReflection, DelanyBazleyGroundParameters) {
 
 TEST(GroundReflection, WorkingStorageIsReusedOnOneGridAndRebuiltOnAnother) {
     auto const narrowband = reference_grid(2);
-    ground_call first(narrowband);
+    ground_call first(narrowband), again(narrowband), listed(listed_grid()), back(narrowband);
     first.run(7, 150.0, 152.0);
 
     // A second call on the same grid allocates nothing.
-    ground_call again(narrowband);
     auto const options = reference_ground(7);
     auto const ambient = reference_air();
     {
@@ -162,14 +158,9 @@ TEST(GroundReflection, WorkingStorageIsReusedOnOneGridAndRebuiltOnAnother) {
     }
     EXPECT_EQ(again.effect->values, first.effect->values);
 
-    // Another grid in between, then back: every call gives what a first call would give.
-    ground_call listed(listed_grid());
+    // Another grid in between, then back: the call gives what a first call would give.
     listed.run(7, 150.0, 152.0);
-    ground_call third_octave(tob_frequency_range_ptr);
-    third_octave.run(7, 150.0, 152.0);
-    ground_call back(narrowband);
     back.run(7, 150.0, 152.0);
     EXPECT_EQ(back.effect->values, first.effect->values);
     EXPECT_EQ(back.phase->values, first.phase->values);
-    EXPECT_EQ(listed.effect->values.size(), 7u);
 }

@@ -45,11 +45,7 @@ separated bb_tones(std::vector<double> const& levels, double cut_frequency, int 
                                static_cast<tone_sep_method_t>(method), 2.0, 3.0, broadband, tones);
     EXPECT_EQ(tones->tones.size(), 1u) << "the tone list is left alone";
     EXPECT_TRUE(broadband->tones.empty());
-    separated split;
-    split.broadband = broadband->values;
-    split.tones = tones->values;
-    split.k = k;
-    return split;
+    return {{broadband->values, tones->values}, k};
 }
 
 } // namespace
@@ -72,14 +68,21 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     EXPECT_EQ(kept.tones[10], 53.0);
     EXPECT_EQ(kept.broadband[10], 50.0);
 
-    // Below the cut index the test is against the neighbours in the input.
+    // Below the cut index the test is against the neighbours in the input, from the cut index
+    // up against the floor: beside a 60 dB tone, 53 dB is 3 above the floor but 2 below the
+    // neighbours' mean.
     EXPECT_EQ(check_tones(peak, {10}, 12, 3.0).tones[10], 0.0);
     EXPECT_EQ(check_tones(peak, {10}, 12, 2.0).tones[10], 53.0);
+    std::vector<double> beside = peak;
+    beside[11] = 60.0;
+    EXPECT_EQ(check_tones(beside, {10, 11}, 11, 1.0).tones[10], 0.0);
+    EXPECT_EQ(check_tones(beside, {10, 11}, 10, 1.0).tones[10], 53.0);
 
-    // The end bands below the cut are left alone, as are faint tones.
+    // The end bands below the cut are left alone, though their one neighbour's half would give
+    // them back, as are faint tones.
     std::vector<double> ends = flat_with_peak(50.0, 0, 60.0);
     ends[23] = 60.0;
-    split_levels const kept_ends = check_tones(ends, {0, 23}, 24, 30.0);
+    split_levels const kept_ends = check_tones(ends, {0, 23}, 24, 40.0);
     EXPECT_EQ(kept_ends.tones[0] + kept_ends.tones[23], 120.0);
     boost::shared_ptr<spectrum_t> faint = tob_filled_with(0.0);
     faint->values[5] = 1.0;
@@ -99,12 +102,12 @@ TEST(BBTones, WorkedExamplesWithBothLocators) {
     // Any value but 1 runs the slope locator.
     EXPECT_EQ(bb_tones(levels, 250.0, 7).tones, bb_tones(levels, 250.0, 0).tones);
 
-    // At and below the cut index the input stands in the broadband: 2 kHz gives index 14, so the
-    // tones at bands 8 and 12 keep their full level there.
-    separated const high_cut = bb_tones(levels, 2000.0, 0);
-    EXPECT_EQ(high_cut.k, 14);
-    EXPECT_EQ(std::vector<double>(high_cut.broadband.begin(), high_cut.broadband.begin() + 15),
-              std::vector<double>(levels.begin(), levels.begin() + 15));
+    // At and below the cut index the input stands in the broadband: 3.15 kHz gives index 16, so
+    // the tones at bands 8, 12 and 16 keep their full level there.
+    separated const high_cut = bb_tones(levels, 3150.0, 0);
+    EXPECT_EQ(high_cut.k, 16);
+    EXPECT_EQ(std::vector<double>(high_cut.broadband.begin(), high_cut.broadband.begin() + 17),
+              std::vector<double>(levels.begin(), levels.begin() + 17));
     // A cut frequency whose index falls off the grid, or that has no band, gives 0.
     for (double cut : {20.0, 1e6, 0.0, -100.0, not_a_number}) {
         separated const split = bb_tones(flat_with_peak(50.0, 0, 70.0), cut, 0);

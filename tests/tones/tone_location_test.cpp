@@ -115,13 +115,11 @@ TEST(FrequencyLocator, BridgesFlaggedBandsAndRebuildsTheBaseline) {
 }
 
 TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
-    std::vector<double> inner(24, 50.0);
-    inner[0] = 40.0;
-    inner[1] = inner[2] = inner[3] = 0.0;
-    inner[4] = 48.0;
+    std::vector<double> inner = {40.0, 0.0, 0.0, 0.0, 48.0};
+    inner.resize(24, 50.0);
     std::vector<double> const inner_filled = filled(inner);
-    EXPECT_DOUBLE_EQ(inner_filled[1], 42.0);
-    EXPECT_DOUBLE_EQ(inner_filled[3], 46.0);
+    EXPECT_EQ(std::vector<double>(inner_filled.begin(), inner_filled.begin() + 5),
+              (std::vector<double>{40.0, 42.0, 44.0, 46.0, 48.0}));
 
     // Two adjacent values: their line runs to both ends, below zero if it must.
     std::vector<double> pair(24, 0.0);
