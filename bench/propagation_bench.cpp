@@ -1,7 +1,8 @@
-// Cost of the propagation corrections per spectrum, on the grids callers use. The ground
-// reflection stands beside its floor: per band, the standard calls its ground model cannot do
-// without (the complex functions of the impedance, the magnitude and phase of the reflection,
-// the interference's cosine and the level's logarithm).
+// Cost of the propagation corrections per spectrum, on the grids callers use, each beside its
+// floor: per band, the standard calls its formula cannot do without. For the absorption, the
+// arithmetic or the logarithms and powers of the method's coefficient and the level's
+// subtraction; for the ground reflection, the complex functions of the impedance, the
+// magnitude and phase of the reflection, the interference's cosine and the level's logarithm.
 
 #include <calc-common/propagation.hpp>
 #include <calc-common/scenario.hpp>
@@ -11,6 +12,7 @@
 #include <benchmark/benchmark.h>
 #include <boost/make_shared.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <vector>
@@ -45,6 +47,57 @@ void absorption(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * static_cast<long>(spectrum->values.size()));
 }
 BENCHMARK(absorption)->ArgsProduct({{0, 2000}, {0, 1, 2, 4}});
+
+constexpr double ln_10 = 2.302585092994046;
+
+// 10^x through the cheapest standard call.
+double power_of_ten(double x) {
+    return std::exp(x * ln_10);
+}
+
+// Per frequency: Sutherland's classical square and its two relaxation fractions; ARP 866's
+// decimal logarithm, two powers of ten and the square root of its humidity term; AIR 1845's
+// band number (a decimal logarithm) and its coefficient; ARP 5534's band number, the power of
+// ten of its mid-frequency and the power of the band conversion.
+double coefficient_calls(long method, double f) {
+    switch (method) {
+    case 0: {
+        double const oxygen = 40000.0 / f;
+        double const nitrogen = 400.0 / f;
+        return 2e-8 * f * f + 0.1 / (oxygen * oxygen + 1.0) + 0.05 / (nitrogen * nitrogen + 1.0);
+    }
+    case 1: {
+        double const log_f = std::log10(f);
+        double const x = 0.9 / std::sqrt(f / 1010.0);
+        return power_of_ten(log_f * 2.05 - 8.0) + power_of_ten(log_f - 2.7) * x;
+    }
+    case 2: {
+        long const band = std::lround(10.0 * std::log10(f)) - 17;
+        return band >= 0 && band < 24 ? 0.4 * static_cast<double>(band) : 0.0;
+    }
+    default: {
+        double const f_mid =
+            power_of_ten(0.1 * static_cast<double>(std::lround(10.0 * std::log10(f))));
+        double const g = f_mid * f_mid;
+        double const loss = (0.01 * 40000.0 / (1.6e9 + g) + 0.1 * 400.0 / (1.6e5 + g)) * g;
+        return std::pow(1.1 - loss * 0.001, 1.6) * loss;
+    }
+    }
+}
+
+void absorption_floor(benchmark::State& state) {
+    auto const grid = grid_for(state);
+    std::vector<double> levels(grid->size());
+    for (auto _ : state) {
+        std::fill(levels.begin(), levels.end(), 80.0);
+        for (std::size_t i = 0; i < levels.size(); ++i) {
+            levels[i] -= coefficient_calls(state.range(1), (*grid)(i)) * 15.0;
+        }
+        benchmark::DoNotOptimize(levels.data());
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(levels.size()));
+}
+BENCHMARK(absorption_floor)->ArgsProduct({{0, 2000}, {0, 1, 2, 4}});
 
 void ground_reflection(benchmark::State& state) {
     auto options = boost::make_shared<common_all_sources_transposition_t>();

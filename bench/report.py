@@ -19,6 +19,9 @@ import time
 REPETITIONS = 7
 FLOORS = {
     "BM_PerceivedNoiseAndToneCorrection": "BM_Floor_OverallLevel",
+    "BM_EffectivePerceivedNoiseLevel_30s": "BM_Floor_OverallLevel_30s",
+    "BM_TimeHistoryMetrics_30s": "BM_Floor_OverallLevel_30s",
+    "BM_Flyover": "BM_Floor_PrepareFlyoverTree",
 }
 SCALE_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -63,7 +66,7 @@ def whole_program_row(program):
     times = []
     for _ in range(5):
         start = time.perf_counter()
-        subprocess.run([program], check=True, capture_output=True,
+        subprocess.run([os.path.abspath(program)], check=True, capture_output=True,
                        cwd=os.path.dirname(program))
         times.append((time.perf_counter() - start) * 1e9)
     return statistics.median(times)

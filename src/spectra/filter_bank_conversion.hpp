@@ -31,7 +31,6 @@
 #include "spectra/tob_line_weights.hpp"
 
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 namespace VARNO {
@@ -60,17 +59,21 @@ struct filter_banks {
 filter_banks const& shared_filter_banks();
 
 /// Working storage of the conversions made on one thread: the energies of the input's lines,
-/// the per-column sums of a band resolved through a coarser one, and the Butterworth responses
-/// of the bands to the lines of the last regular grid converted. It survives between calls, so
-/// that a run over many spectra on one grid allocates nothing and computes no response twice.
+/// the per-column sums of a band resolved through a coarser one, and for the Butterworth shape
+/// the filters that the bands draw their energy through, their responses to the lines of the
+/// last grid converted and their per-column energies. It survives
+/// between calls, so that a run over many spectra on one grid allocates nothing and computes
+/// no response twice.
 struct filter_bank_scratch {
     std::vector<double> line_energies;
     std::vector<double> coarser_energies; // per column: the coarser band through the shape
     std::vector<double> finer_cells;      // per column: the finer band's part of the cells
     std::vector<double> coarser_cells;    // per column: the coarser band's part of the cells
-    regular_grid_key responses_grid;      // grid of the responses below
-    std::vector<std::pair<acoustics::OctaveBandFilter const*, std::vector<double>>> responses;
-    std::size_t responses_in_use = 0; // entries of `responses` that hold the grid's
+    std::vector<acoustics::OctaveBandFilter const*> wanted_filters; // of the current call
+    regular_grid_key responses_grid;                                // grid of the responses
+    std::vector<acoustics::OctaveBandFilter const*> heard_filters;  // whose responses are kept
+    std::vector<double> responses;         // per pass over the lines, per line, per filter
+    std::vector<double> filtered_energies; // per column, per pass, per filter
 
     /// This thread's storage.
     static filter_bank_scratch& of_this_thread();
@@ -94,23 +97,22 @@ public:
 private:
     acoustics::OctaveBandFilterBank const& bank_with(std::size_t bands_per_octave) const;
     acoustics::OctaveBandFilterBank const* coarser_than(std::size_t bands_per_octave) const;
-    void add_band_energy(acoustics::OctaveBandFilterBank const& bank,
-                         acoustics::OctaveBandFilter const& filter, double* energies);
-    void add_filtered_energy(acoustics::OctaveBandFilterBank const& bank,
-                             acoustics::OctaveBandFilter const& filter, filter_bank_shape shape,
+    void add_band_energy(acoustics::OctaveBandFilter const& filter, double* energies);
+    acoustics::OctaveBandFilter const* holder_of(acoustics::OctaveBandFilter const& filter) const;
+    void add_filtered_energy(acoustics::OctaveBandFilter const& filter, filter_bank_shape shape,
                              double* energies) const;
     struct line_span {
         std::size_t first;
         std::size_t last;
     };
-    line_span lines_reaching(acoustics::OctaveBandFilter const& filter,
-                             filter_bank_shape shape) const;
-    double response(acoustics::OctaveBandFilterBank const& bank,
-                    acoustics::OctaveBandFilter const& filter, filter_bank_shape shape,
+    line_span lines_reaching(acoustics::OctaveBandFilter const& filter) const;
+    double response(acoustics::OctaveBandFilter const& filter, filter_bank_shape shape,
                     double frequency) const;
 
-    double const* butterworth_responses(acoustics::OctaveBandFilterBank const& bank,
-                                        acoustics::OctaveBandFilter const& filter) const;
+    void
+    filter_through_butterworth_bands(std::vector<acoustics::OctaveBandFilter>::const_iterator first,
+                                     std::vector<acoustics::OctaveBandFilter>::const_iterator last);
+    void keep_responses_of_wanted_filters();
 
     frequency_range_t const& range_;
     std::size_t columns_;

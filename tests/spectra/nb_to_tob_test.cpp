@@ -107,6 +107,36 @@ TEST(NbToTob, CoarserBandsHoldTheEnergyOfTheirFinerOnes) {
     }
 }
 
+// A Butterworth band's level depends on the lines alone: not on the bands asked beside it or
+// before it (a twelfth-octave result holds more bands than are summed side by side), nor on a
+// line at 0 Hz, which no band-pass filter hears, even when that line's level is not a number.
+TEST(NbToTob, ButterworthBandsHearTheirLinesAlone) {
+    using VARNO::detail::filter_bank_conversion;
+    boost::shared_ptr<spectrum_t> input = narrowband(0.0, 20000.0, 2.0, 30.0);
+    std::vector<double> all;
+    filter_bank_conversion(*input->frequency_range, input->values, 1,
+                           VARNO::detail::filter_bank_butterworth)
+        .band_levels(12, 50.0, 10000.0, all);
+    input->at(700) = 80.0;
+    filter_bank_conversion conversion(*input->frequency_range, input->values, 1,
+                                      VARNO::detail::filter_bank_butterworth);
+    std::vector<double> one_by_one;
+    for (auto const& filter : VARNO::detail::shared_filter_banks().twelfth_octaves.filters) {
+        double const nominal = filter.nominal_frequency;
+        if (nominal >= 50.0 && nominal <= 10000.0) {
+            std::vector<double> one;
+            conversion.band_levels(12, nominal, nominal, one);
+            one_by_one.insert(one_by_one.end(), one.begin(), one.end());
+        }
+    }
+    conversion.band_levels(12, 50.0, 10000.0, all);
+    EXPECT_EQ(all, one_by_one);
+
+    std::vector<double> const with_a_number = filtered(input, nbtob_butterworth)->values;
+    input->at(0) = std::nan("");
+    EXPECT_EQ(filtered(input, nbtob_butterworth)->values, with_a_number);
+}
+
 // The banks are shared and a thread keeps the responses of its last grid: a repeated call
 // gives what the first gave, after another grid has come between, and allocates nothing.
 TEST(NbToTob, RepeatedCallsMatchTheFirstAndAllocateNothing) {
