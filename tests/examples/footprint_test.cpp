@@ -33,16 +33,22 @@ using metric_t = double observer_levels_t::*;
 metric_t const metrics[] = {&observer_levels_t::sel, &observer_levels_t::la_max,
                             &observer_levels_t::epnl};
 
-TEST_F(FootprintTest, LevelsFallWithDistanceFromTheTrack) {
+// Away from the track the observer is further from every point of the trajectory; along it, the
+// aircraft passes higher at each column (100, 300 and 500 m).
+TEST_F(FootprintTest, LevelsFallAwayFromTheTrackAndAsTheAircraftClimbs) {
     footprint_t const& f = one_thread;
     ASSERT_EQ(f.x.size(), 3u);
     ASSERT_EQ(f.y.size(), 5u);
     ASSERT_EQ(f.y[2], 0.0);
-    for (std::size_t i = 0; i < f.x.size(); ++i) {
-        for (metric_t metric : metrics) {
+    for (metric_t metric : metrics) {
+        for (std::size_t i = 0; i < f.x.size(); ++i) {
             for (std::size_t j = 2; j + 1 < f.y.size(); ++j) {
                 EXPECT_GT(level_at(f, i, j).*metric, level_at(f, i, j + 1).*metric + 1.0)
                     << "x = " << f.x[i] << ", y = " << f.y[j];
+            }
+            if (i + 1 < f.x.size()) {
+                EXPECT_GT(level_at(f, i, 2).*metric, level_at(f, i + 1, 2).*metric + 1.0)
+                    << "x = " << f.x[i];
             }
         }
     }
