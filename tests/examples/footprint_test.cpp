@@ -1,8 +1,10 @@
 // The footprint example as a calculation: on a small grid, levels fall away from the track,
 // mirror about it, and do not depend on how many threads shared the observers.
-#include "footprint.hpp"
+#include "report.hpp"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace {
 
@@ -79,6 +81,23 @@ TEST_F(FootprintTest, SameToTheLastBitOnOneThreadAndOnThree) {
             EXPECT_EQ(one_thread.levels[n].*metric, three_threads.levels[n].*metric) << n;
         }
     }
+}
+
+// Four 1 km cells around one observer at 90 dB(A), the others at 80: inside each cell the
+// bilinear surface is 80 + 10 u v from the far corner, at least 85 where u v >= 1/2, a fraction
+// 1/2 - ln(2)/2 of the cell.
+TEST(FootprintReport, AreaInsideAContourIsThatOfTheBilinearSurface) {
+    footprint_t peak;
+    peak.x = {0.0, 1000.0, 2000.0};
+    peak.y = {-1000.0, 0.0, 1000.0};
+    peak.levels.assign(9, observer_levels_t{80.0, 0.0, 0.0});
+    peak.levels[4].sel = 90.0;
+    double const exact = 4e6 * (0.5 - 0.5 * std::log(2.0));
+    EXPECT_NEAR(area_inside_sel(peak, 85.0), exact, 0.03 * exact);
+    EXPECT_EQ(area_inside_sel(peak, 79.0), 4e6);
+    EXPECT_EQ(area_inside_sel(peak, 90.5), 0.0);
+    EXPECT_FALSE(sel_reaches_edge(peak, 85.0));
+    EXPECT_TRUE(sel_reaches_edge(peak, 80.0));
 }
 
 } // namespace
