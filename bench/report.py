@@ -6,11 +6,17 @@ per iteration in the steady state ("-" where the program does not count them).
 A kernel's floor is the benchmark of the same program named `<kernel>_floor` with the same
 arguments, or the one named in FLOORS.
 
+Benchmarks run on several threads (an argument named `threads`, timed on the wall clock, with
+0 for all the cores) get a table of their own: the wall time of each thread count, the counter
+`observers_per_second`, and the speed-up over the one-thread run of the same benchmark, which is
+their floor.
+
     python3 bench/report.py build-bench [--benchmark_filter=...]
 """
 import glob
 import json
 import os
+import re
 import statistics
 import subprocess
 import sys
@@ -26,7 +32,7 @@ FLOORS = {
 SCALE_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
-def medians(program, extra):
+def medians(program, extra, threaded):
     output = subprocess.run([program, "--benchmark_format=json",
                              "--benchmark_repetitions=%d" % REPETITIONS,
                              "--benchmark_report_aggregates_only=true",
@@ -40,6 +46,8 @@ def medians(program, extra):
             continue
         allocations = entry.get("allocs")
         rows[entry["run_name"]] = (entry["cpu_time"] * SCALE_NS[entry["time_unit"]], allocations)
+        if "/threads:" in entry["run_name"]:
+            threaded[entry["run_name"]] = entry
     return rows
 
 
@@ -72,14 +80,41 @@ def whole_program_row(program):
     return statistics.median(times)
 
 
+def thread_order(name):
+    """Sorts a benchmark's thread counts upwards, with 0 (all the cores) last."""
+    threads = int(re.search(r"/threads:(\d+)", name).group(1))
+    return (re.sub(r"/threads:\d+", "", name), threads == 0, threads)
+
+
+def print_scaling(threaded):
+    """The threaded benchmarks: wall time, throughput and speed-up over one thread."""
+    if not threaded:
+        return
+    print()
+    print("%-46s %7s %12s %12s %8s" % ("threaded (wall clock)", "threads", "time",
+                                        "observers/s", "speed-up"))
+    for name in sorted(threaded, key=thread_order):
+        entry = threaded[name]
+        single = threaded.get(re.sub(r"/threads:\d+", "/threads:1", name))
+        rate = entry.get("observers_per_second")
+        print("%-46s %7s %12s %12s %8s" % (
+            name, "%d" % entry["threads"] if "threads" in entry else "-",
+            readable(entry["real_time"] * SCALE_NS[entry["time_unit"]]),
+            "%.1f" % rate if rate else "-",
+            "%.2f" % (single["real_time"] / entry["real_time"]) if single else "-"))
+
+
 def main():
     build = sys.argv[1] if len(sys.argv) > 1 else "build-bench"
     extra = sys.argv[2:]
     print("%-46s %12s %12s %7s %7s" % ("kernel", "time", "floor", "ratio", "allocs"))
+    threaded = {}
     for program in sorted(glob.glob(os.path.join(build, "bench", "*_bench"))):
-        rows = medians(program, extra)
+        rows = medians(program, extra, threaded)
         for name, (ns, allocations) in sorted(rows.items()):
             if name.endswith("_floor") or "_floor/" in name or name in FLOORS.values():
+                continue
+            if name in threaded:
                 continue
             floor = floor_of(name, rows)
             print("%-46s %12s %12s %7s %7s" % (
@@ -93,6 +128,7 @@ def main():
     for program in flyovers:
         print("%-46s %12s %12s %7s %7s" % ("whole flyover (" + os.path.basename(program) + ")",
                                            readable(whole_program_row(program)), "-", "-", "-"))
+    print_scaling(threaded)
 
 
 if __name__ == "__main__":

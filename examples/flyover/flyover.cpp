@@ -3,15 +3,9 @@
 // the total aircraft is then integrated into the flight's indicators.
 #include "pieces.hpp"
 
-#include <boost/make_shared.hpp>
-
 #include <algorithm>
-#include <cmath>
 
 namespace {
-
-// The fans turn at a blade-passing frequency of 1.6 kHz, in the middle of the noisy bands.
-constexpr double blade_passing_frequency = 1600.0;
 
 using point_ptr = boost::shared_ptr<directional_result_point_t>;
 
@@ -30,67 +24,49 @@ void store(boost::shared_ptr<directional_result_noise_t> const& record,
     record->total_tob->tones = spectrum->tones;
 }
 
-bool is_fan(source_type_t type) {
-    return type == source_fan_forward || type == source_fan_aft;
-}
-
 bool is_landing_gear(source_type_t type) {
     return type == source_main_landing_gear || type == source_nose_landing_gear;
 }
 
 struct point_calculation {
-    flyover_options_t const& options;
     boost::shared_ptr<simulation_t> simulation;
     boost::shared_ptr<frequency_range_t> fan_grid;
+    engine_power_t power;
     propagation_path_t path;
     point_ptr point;
     double fan_tone_received = 0.0;
 
-    // A fan: narrowband at the source (kept in the whole source's first group, which the
-    // results file stores), its tones moved by the Doppler shift, both parts carried to the
-    // microphone and kept as the source's components.
-    boost::shared_ptr<spectrum_t> fan(source_type_t type, int index) {
-        auto const narrowband =
-            illustrative_fan_source(type, path.emission_angle, fan_grid, blade_passing_frequency);
+    // A fan keeps its narrowband source spectrum in the whole source's first group, which the
+    // results file stores, and its broadband and tone parts as the source's components.
+    void keep_fan_parts(source_type_t type, int index, heard_source_t const& heard) {
         point
             ->find(result_type_t::create_engine_source(type, index, true,
                                                        static_cast<noise_component_t>(0)))
-            ->first_native->values = narrowband->values;
-        heard_fan_t const heard = hear_fan(narrowband, blade_passing_frequency, path.doppler_ratio);
-        fan_tone_received = heard.fundamental_received;
-        apply_path(path, heard.broadband);
-        apply_path(path, heard.tones);
+            ->first_native->values = heard.narrowband->values;
         store(point->find(result_type_t::create_engine_source_component(type, index,
                                                                         component_broadband_noise)),
               heard.broadband);
         store(point->find(
                   result_type_t::create_engine_source_component(type, index, component_tones)),
               heard.tones);
-        auto const whole = spectrum_t::create_tob();
-        spectrum_t::log_add(heard.broadband, heard.tones, whole);
-        whole->tones = heard.tones->tones;
-        return whole;
+        fan_tone_received = heard.fan_tone_received;
     }
 
     void engine_source(source_t const& source, int index) {
-        boost::shared_ptr<spectrum_t> heard;
+        heard_source_t const heard = hear_source(source.type, path, power, fan_grid);
         if (is_fan(source.type)) {
-            heard = fan(source.type, index);
-        } else {
-            heard = illustrative_broadband_source(source.type, path.emission_angle);
-            apply_path(path, heard);
+            keep_fan_parts(source.type, index, heard);
         }
         store(point->find(result_type_t::create_engine_source(source.type, index, true,
                                                               static_cast<noise_component_t>(0))),
-              heard);
-        add_into(point, result_type_t::create_total_by_source_type(source.type), heard);
-        add_into(point, result_type_t::create_total_engine(), heard);
-        add_into(point, result_type_t::create_total_aircraft(), heard);
+              heard.whole);
+        add_into(point, result_type_t::create_total_by_source_type(source.type), heard.whole);
+        add_into(point, result_type_t::create_total_engine(), heard.whole);
+        add_into(point, result_type_t::create_total_aircraft(), heard.whole);
     }
 
     void airframe_source(source_t const& source, int index) {
-        auto const heard = illustrative_broadband_source(source.type, path.emission_angle);
-        apply_path(path, heard);
+        auto const heard = hear_source(source.type, path, power, fan_grid).whole;
         store(point->find(result_type_t::create_airframe_source(source.type, index)), heard);
         add_into(point, result_type_t::create_total_by_source_type(source.type), heard);
         add_into(point,
@@ -112,13 +88,14 @@ struct point_calculation {
     }
 };
 
-// Standard air at the ground, humid enough for the absorption to be moderate.
-boost::shared_ptr<ambient_conditions_t> standard_air() {
-    auto const air = boost::make_shared<ambient_conditions_t>();
-    air->temperature = 288.15;
-    air->pressure = 101325.0;
-    air->relative_humidity = 70.0;
-    return air;
+// The microphone at the origin hears the aircraft level at `x` along the track.
+ray_geometry_t ray_from(flyover_options_t const& options, double x) {
+    ray_geometry_t ray;
+    ray.source_x = x;
+    ray.source_z = options.altitude;
+    ray.mach = options.mach;
+    ray.microphone_height = options.microphone_height;
+    return ray;
 }
 
 double loudest_band(spectrum_t const& spectrum) {
@@ -131,7 +108,8 @@ double loudest_band(spectrum_t const& spectrum) {
 
 flyover_t run_flyover(flyover_options_t const& options) {
     flyover_t flyover;
-    flyover.fan_blade_passing_frequency = blade_passing_frequency;
+    engine_power_t const power = approach_power();
+    flyover.fan_blade_passing_frequency = power.blade_passing_frequency();
     auto const fan_grid = make_fan_grid();
     flyover.simulation = build_flyover_simulation(options, fan_grid);
     auto const air = standard_air();
@@ -146,9 +124,11 @@ flyover_t run_flyover(flyover_options_t const& options) {
     for (std::size_t k = 0; k < count; ++k) {
         double const time = -0.5 * options.duration + static_cast<double>(k) * flyover.time_step;
         flyover.simulation->calculation_points[k]->omnidir->position = speed * time;
-        point_calculation calculation{options, flyover.simulation, fan_grid,
-                                      trace_path(options, speed * time, flyover.simulation, air),
-                                      flyover.simulation->result->points[k]->directional};
+        point_calculation calculation{
+            flyover.simulation, fan_grid, power,
+            trace_path(ray_from(options, speed * time),
+                       flyover.simulation->tsour->transposition_options->common_all_sources, air),
+            flyover.simulation->result->points[k]->directional};
         calculation.run();
 
         flyover_sample_t sample;

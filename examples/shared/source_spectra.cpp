@@ -1,10 +1,12 @@
 // Made-up source spectra. The real ones come from the jet, fan and airframe models of the
-// calculation libraries; these shapes (a hump per source, a simple directivity) are only
-// plausible enough for the example to show what the library does with them.
-#include "pieces.hpp"
+// calculation libraries; these shapes (a hump per source, a simple directivity, louder engines at
+// higher power) are only plausible enough for the examples to show what the library does with
+// them.
+#include "aircraft_sound.hpp"
 
 #include <boost/make_shared.hpp>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -36,7 +38,7 @@ struct broadband_shape_t {
     double fall;   // dB per octave squared
 };
 
-broadband_shape_t shape_of(source_type_t type) {
+broadband_shape_t approach_shape_of(source_type_t type) {
     switch (type) {
     case source_jet:
         return {112.0, 250.0, 2.0};
@@ -55,6 +57,18 @@ broadband_shape_t shape_of(source_type_t type) {
     }
 }
 
+// The engines' humps grow with their power, and the fans' move up with their shaft speed.
+broadband_shape_t shape_of(source_type_t type, engine_power_t const& power) {
+    broadband_shape_t shape = approach_shape_of(type);
+    if (type == source_jet) {
+        shape.peak += power.jet_gain;
+    } else if (is_fan(type)) {
+        shape.peak += power.fan_gain;
+        shape.centre *= power.fan_speed;
+    }
+    return shape;
+}
+
 double directivity(source_type_t type, double emission_angle) {
     switch (type) {
     case source_jet:
@@ -70,9 +84,22 @@ double directivity(source_type_t type, double emission_angle) {
 
 } // namespace
 
+engine_power_t approach_power() {
+    return engine_power_t();
+}
+
+engine_power_t take_off_power() {
+    engine_power_t power;
+    power.jet_gain = 12.0;
+    power.fan_gain = 9.0;
+    power.fan_speed = 1.5;
+    return power;
+}
+
 boost::shared_ptr<spectrum_t> illustrative_broadband_source(source_type_t type,
-                                                            double emission_angle) {
-    broadband_shape_t const shape = shape_of(type);
+                                                            double emission_angle,
+                                                            engine_power_t const& power) {
+    broadband_shape_t const shape = shape_of(type, power);
     double const gain = directivity(type, emission_angle);
     auto const spectrum = spectrum_t::create_tob();
     for (std::size_t i = 0; i < spectrum->values.size(); ++i) {
@@ -83,9 +110,10 @@ boost::shared_ptr<spectrum_t> illustrative_broadband_source(source_type_t type,
 }
 
 boost::shared_ptr<spectrum_t> illustrative_fan_source(source_type_t type, double emission_angle,
-                                                      boost::shared_ptr<frequency_range_t> grid,
-                                                      double blade_passing_frequency) {
-    broadband_shape_t const shape = shape_of(type);
+                                                      engine_power_t const& power,
+                                                      boost::shared_ptr<frequency_range_t> grid) {
+    broadband_shape_t const shape = shape_of(type, power);
+    double const blade_passing_frequency = power.blade_passing_frequency();
     double const gain = directivity(type, emission_angle);
     auto const spectrum = boost::make_shared<spectrum_t>(grid);
     for (std::size_t i = 0; i < spectrum->values.size(); ++i) {

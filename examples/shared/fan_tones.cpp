@@ -1,6 +1,6 @@
 // A fan as the microphone hears it: its narrowband spectrum in third-octave bands, the tones at
 // the blade-passing harmonics taken out of the broadband floor and moved by the Doppler shift.
-#include "pieces.hpp"
+#include "aircraft_sound.hpp"
 
 #include <cmath>
 
