@@ -3,6 +3,8 @@
 
 #include <calc-common/metrics.hpp>
 
+#include "support/tob_spectrum.hpp"
+
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
@@ -10,11 +12,7 @@
 
 namespace metrics_test {
 
-inline boost::shared_ptr<spectrum_t> tob_spectrum(std::vector<double> const& levels) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values = levels;
-    return spectrum;
-}
+using test_support::tob_spectrum;
 
 inline std::vector<double> flat(double level) {
     return std::vector<double>(24, level);

@@ -3,6 +3,8 @@
 
 #include <calc-common/spectra.hpp>
 
+#include "support/tob_spectrum.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -12,12 +14,7 @@
 
 namespace tone_test {
 
-/// A third-octave spectrum holding `levels`.
-inline boost::shared_ptr<spectrum_t> tob_spectrum(std::vector<double> const& levels) {
-    boost::shared_ptr<spectrum_t> spectrum = spectrum_t::create_tob();
-    spectrum->values = levels;
-    return spectrum;
-}
+using test_support::tob_spectrum;
 
 inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
     return tob_spectrum(std::vector<double>(24, level));
