@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
-
 // The aircraft's position at one point of the trajectory, on the track y = 0.
 struct position_t {
     double x = 0.0; // m
@@ -60,8 +58,7 @@ scene_t make_scene(footprint_options_t const& options) {
     double mach = climb.mach;
     Calc_Speed(&speed, &mach, 0.0, 0.0, scene.air->temperature);
     scene.trajectory = fly(climb, speed);
-    scene.path_angle =
-        std::atan2(climb.end_altitude - climb.start_altitude, climb.length) * 180.0 / pi;
+    scene.path_angle = degrees(std::atan2(climb.end_altitude - climb.start_altitude, climb.length));
     scene.mach = climb.mach;
     scene.time_step = climb.time_step;
     scene.microphone_height = options.microphone_height;

@@ -7,6 +7,20 @@
 
 #include <calc-common/calc-common.hpp>
 
+// ---- Angles ----------------------------------------------------------------------------------
+
+constexpr double pi = 3.14159265358979323846;
+
+/// Degrees of an angle of `radians`.
+inline double degrees(double radians) {
+    return radians * 180.0 / pi;
+}
+
+/// Radians of an angle of `degrees_` degrees.
+inline double radians(double degrees_) {
+    return degrees_ * pi / 180.0;
+}
+
 // ---- Aircraft and air (aircraft.cpp) --------------------------------------------------------
 
 /// A two-engine aircraft (jet, forward fan with its broadband and tone components and aft fan on

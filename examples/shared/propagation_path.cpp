@@ -7,14 +7,12 @@
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
-
 // Grazing angle (degrees) and length (m) of the ray reflected at the ground: it comes from the
 // source's image below the ground.
 void reflected_ray(double horizontal, double source_z, double microphone_height,
                    double* grazing_angle, double* length) {
     double const rise = source_z + microphone_height;
-    *grazing_angle = std::atan2(rise, horizontal) * 180.0 / pi;
+    *grazing_angle = degrees(std::atan2(rise, horizontal));
     *length = std::hypot(horizontal, rise);
 }
 

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
-
 // A level hump over log frequency: `peak` dB at `centre` Hz, falling `fall` dB per octave
 // squared away from it.
 double hump(double frequency, double peak, double centre, double fall) {
@@ -28,7 +26,7 @@ double lobe(double emission_angle, double peak_angle, double fall) {
 
 // An airframe source radiates like a dipole across the flight path.
 double dipole(double emission_angle) {
-    double const s = std::sin(emission_angle * pi / 180.0);
+    double const s = std::sin(radians(emission_angle));
     return 10.0 * std::log10(s * s + 0.1);
 }
 
