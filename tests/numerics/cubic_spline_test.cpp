@@ -15,8 +15,7 @@ double y_even[] = {0.0, 1.0, 0.0, 1.0};
 } // namespace
 
 TEST(SplineCubic, SecondDerivativesForEachEndConditionAndTheirPieces) {
-    // Zero end curvature on unit knots (second derivatives 0, -4, 4, 0), which the reference
-    // values of the natural spline hold; here the pieces it gives.
+    // Zero end curvature on unit knots: second derivatives 0, -4, 4, 0.
     std::unique_ptr<double[]> const ypp(spline_cubic_set(4, t_even, y_even, 2, 0.0, 2, 0.0));
     // A prescribed end curvature is honoured.
     std::unique_ptr<double[]> const bent(spline_cubic_set(4, t_even, y_even, 2, 1.5, 2, -0.5));
@@ -33,18 +32,14 @@ TEST(SplineCubic, SecondDerivativesForEachEndConditionAndTheirPieces) {
         EXPECT_NEAR(cubic[i], 6.0 * t[i], 1e-12) << i;
     }
 
+    // The values are held by the reference values of the natural spline; here the derivatives
+    // that come with them. First piece: y = 5/3 t - 2/3 t^3; the last knot has no curvature.
     double yp = 0.0, ypp_value = 0.0;
-    // First piece: y = 5/3 t - 2/3 t^3.
-    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 0.5, &yp, &ypp_value),
-                5.0 / 6.0 - 1.0 / 12.0, 1e-14);
+    spline_cubic_val(4, t_even, y_even, ypp.get(), 0.5, &yp, &ypp_value);
     EXPECT_NEAR(yp, 5.0 / 3.0 - 0.5, 1e-14);
     EXPECT_NEAR(ypp_value, -2.0, 1e-14);
-    // The last knot takes the last interval; beyond it the piece goes on. The data satisfy
-    // y(3 - t) = 1 - y(t), so at 3.5 the spline is 1 minus the first piece at -0.5.
-    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.0, &yp, &ypp_value), 1.0, 1e-14);
+    spline_cubic_val(4, t_even, y_even, ypp.get(), 3.0, &yp, &ypp_value);
     EXPECT_NEAR(ypp_value, 0.0, 1e-13);
-    EXPECT_NEAR(spline_cubic_val(4, t_even, y_even, ypp.get(), 3.5, &yp, &ypp_value),
-                1.0 + 5.0 / 6.0 - 1.0 / 12.0, 1e-13);
 }
 
 TEST(SplineCubicDeathTest, FatalFaultsEndTheProcessWithCodeOne) {
