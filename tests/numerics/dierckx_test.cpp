@@ -94,8 +94,6 @@ TEST(Curfit, GivenKnotsGiveTheLeastSquaresSpline) {
     fixed.t[4] = 8.0, fixed.t[5] = 15.0, fixed.t[6] = 22.0;
     fixed.run(-1, 0.0);
     EXPECT_EQ(fixed.ier, 0);
-    EXPECT_EQ(fixed.t[0], fixed.x.front());
-    EXPECT_EQ(fixed.t[10], fixed.x.back());
     EXPECT_LT(fixed.fp, 0.5 * polynomial.fp);
 
     fixed.t[5] = 7.0; // knots out of order
@@ -107,14 +105,13 @@ TEST(Curfit, ContinuationReachesTheNewFactorFromTheOldKnots) {
     Curfit fit(40, 44);
     fit.run(0, 0.05);
     ASSERT_EQ(fit.ier, 0);
-    std::vector<double> const first(fit.c.begin(), fit.c.begin() + fit.n - 4);
-    int const first_n = fit.n;
+    Curfit const first = fit;
     fit.run(1, 0.05); // the same factor: the same spline
-    EXPECT_EQ(fit.n, first_n);
-    EXPECT_EQ(std::vector<double>(fit.c.begin(), fit.c.begin() + fit.n - 4), first);
+    EXPECT_EQ(fit.n, first.n);
+    EXPECT_EQ(fit.c, first.c);
     fit.run(1, 0.01);
     ASSERT_EQ(fit.ier, 0);
-    EXPECT_GE(fit.n, first_n);
+    EXPECT_GE(fit.n, first.n);
     EXPECT_NEAR(fit.fp, 0.01, 0.001 * 0.01);
 }
 
