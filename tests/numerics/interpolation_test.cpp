@@ -1,13 +1,16 @@
 #include <calc-common/numerics.hpp>
 
+#include "support/allocation_counter.hpp"
 #include "support/error_text.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
+#include <numeric>
 #include <vector>
+
+using test_support::error_text;
 
 namespace {
 
@@ -18,6 +21,11 @@ namespace {
 double const square_x[] = {0.0, 1.0, 3.0, 7.0};
 double const square_y[] = {0.0, 1.0, 9.0, 49.0};
 std::size_t const square_n = 4;
+
+// A directivity table for the linear lookup.
+double const angles[] = {10.0, 40.0, 90.0, 150.0};
+double const levels[] = {80.0, 86.0, 90.0, 84.0};
+std::size_t const count = 4;
 
 struct akima_run {
     std::vector<double> yi, dyi, slopes;
@@ -38,26 +46,17 @@ TEST(ParabolicInterp, AkimaSlopesAndEndRulesMatchTheHandWorkedTable) {
     // Inner slopes are exact for a parabola, so the first inner interval reproduces it; on [3, 7]
     // p2 = 5/4, p3 = -1/16. Below the table the first point's slope carries on; on the last point
     // (and one ulp beyond) the cubic's slope is t(3) = 13, beyond it the last chord, 10.
-    struct row {
-        double x, y, dy;
-    } const rows[] = {{-2.0, 1.0, -0.5},
-                      {2.0, 4.0, 4.0},
-                      {5.0, 25.5, 10.25},
-                      {7.0, 49.0, 13.0},
-                      {std::nextafter(7.0, 8.0), 49.0, 13.0},
-                      {9.0, 69.0, 10.0}};
-    std::vector<double> xi;
-    for (row const& r : rows) {
-        xi.push_back(r.x);
-    }
+    std::vector<double> const xi = {-2.0, 2.0, 5.0, 7.0, std::nextafter(7.0, 8.0), 9.0};
+    double const y[] = {1.0, 4.0, 25.5, 49.0, 49.0, 69.0};
+    double const dy[] = {-0.5, 4.0, 10.25, 13.0, 13.0, 10.0};
     akima_run const out = run(square_x, square_y, square_n, true, xi);
     double const t[] = {-0.5, 2.0, 6.0, 13.0};
     for (std::size_t i = 0; i < square_n; ++i) {
         EXPECT_NEAR(out.slopes[i], t[i], 1e-13) << "slope " << i;
     }
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        EXPECT_NEAR(out.yi[i], rows[i].y, 1e-12) << "at " << rows[i].x;
-        EXPECT_NEAR(out.dyi[i], rows[i].dy, 1e-12) << "at " << rows[i].x;
+    for (std::size_t i = 0; i < xi.size(); ++i) {
+        EXPECT_NEAR(out.yi[i], y[i], 1e-12) << "at " << xi[i];
+        EXPECT_NEAR(out.dyi[i], dy[i], 1e-12) << "at " << xi[i];
     }
     // Without extrapolation the end values are held and the derivatives left alone.
     akima_run const held = run(square_x, square_y, square_n, false, {-1.0, 0.0, 8.0});
@@ -108,8 +107,7 @@ TEST(ParabolicInterp, SmallTables) {
 
     double out = 0.0;
     std::size_t const none = 0, ni = 1;
-    EXPECT_EQ(test_support::error_text(
-                  [&] { Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out); }),
+    EXPECT_EQ(error_text([&] { Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out); }),
               "An error occurred in function Calc_ParabolicInterp");
 }
 
@@ -128,4 +126,58 @@ TEST(Max, FirstOfTolerantlyEqualValuesWins) {
     std::vector<double> empty;
     EXPECT_EQ(Calc_Max(empty, &maximum), -1);
     EXPECT_EQ(maximum, 0.0);
+}
+
+TEST(AngularInterpLinear, InterpolatesInsideAndClampsOutside) {
+    // No wrap-around: 370 degrees is beyond the table, not 10 degrees.
+    double const rows[][2] = {{25.0, 83.0}, {120.0, 87.0}, {40.0, 86.0}, {0.0, 80.0},
+                              {10.0, 80.0}, {200.0, 84.0}, {370.0, 84.0}};
+    for (bool extrapolate : {false, true}) {
+        for (auto const& r : rows) {
+            EXPECT_DOUBLE_EQ(Calc_AngularInterp_Linear(angles, levels, count, r[0], extrapolate),
+                             r[1])
+                << r[0] << (extrapolate ? " extrapolated" : "");
+        }
+    }
+    EXPECT_EQ(Calc_AngularInterp_Linear(angles, levels, 1, 70.0, true), 80.0);
+    EXPECT_EQ(error_text([] { Calc_AngularInterp_Linear(angles, levels, 0, 20.0, true); }),
+              "An error occurred in function Calc_AngularInterp_Linear");
+}
+
+TEST(AngularInterpParabolic, IsTheAkimaCurveAtOneAngle) {
+    // On the hand-worked table: the cubic of [3, 7] inside; below the table the first point's
+    // slope carries on, or without extrapolation the first value is held.
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(square_x, square_y, square_n, 5.0, false), 25.5,
+                1e-12);
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(square_x, square_y, square_n, -2.0, true), 1.0, 1e-12);
+    EXPECT_EQ(Calc_AngularInterp_Parabolic(square_x, square_y, square_n, -2.0, false), 0.0);
+    EXPECT_EQ(error_text([] { Calc_AngularInterp_Parabolic(angles, levels, 0, 20.0, true); }),
+              "An error occurred in function Calc_ParabolicInterp");
+}
+
+TEST(AngularInterpParabolic, GrowsItsWorkspaceOnceAndThenAllocatesNothing) {
+    // A straight line on more points than the first workspace holds.
+    std::vector<double> x(100), y(100);
+    std::iota(x.begin(), x.end(), 0.0);
+    std::transform(x.begin(), x.end(), y.begin(), [](double v) { return 3.0 * v; });
+    std::size_t const n = x.size();
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(x.data(), y.data(), n, 50.5, false), 151.5, 1e-9);
+    test_support::AllocationCounter counter;
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(x.data(), y.data(), n, 20.25, false), 60.75, 1e-9);
+    EXPECT_NEAR(Calc_AngularInterp_Parabolic(angles, levels, count, 40.0, false), 86.0, 1e-12);
+    EXPECT_EQ(counter.count(), 0u);
+}
+
+TEST(AngularInterpolationRecord, DefaultIsParabolicAndTheSharedRecordsMatchTheirTypes) {
+    // The linear lookup would give 29 at 5 on the hand-worked table.
+    angular_interpolation_t const standard;
+    EXPECT_EQ(standard.type, ANGULAR_INTERPOLATION_PARABOLIC);
+    EXPECT_NEAR(standard.interpolator(square_x, square_y, square_n, 5.0, true), 25.5, 1e-12);
+    EXPECT_EQ(angular_interpolation_t::linear->type, ANGULAR_INTERPOLATION_LINEAR);
+    EXPECT_EQ(angular_interpolation_t::parabolic->type, ANGULAR_INTERPOLATION_PARABOLIC);
+    EXPECT_EQ(angular_interpolation_t::linear->interpolator(angles, levels, count, 120.0, true),
+              87.0);
+    EXPECT_NEAR(
+        angular_interpolation_t::parabolic->interpolator(square_x, square_y, square_n, 5.0, true),
+        25.5, 1e-12);
 }
