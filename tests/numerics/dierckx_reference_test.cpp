@@ -16,6 +16,8 @@
 
 namespace {
 
+using namespace VARNO::detail;
+
 #include "bspline_reference.inc"
 
 constexpr double relative_tolerance = 1e-10;
@@ -45,9 +47,8 @@ TEST(DierckxReference, FitsValuesAndDerivativesMatch) {
         std::vector<int> iwrk(nest);
         int n = 0, ier = 0;
         double fp = 0.0;
-        VARNO::detail::curfit(0, m, reference.x, reference.y, w.data(), reference.x[0],
-                              reference.x[m - 1], k, reference.s, nest, n, t.data(), c.data(), fp,
-                              wrk.data(), lwrk, iwrk.data(), ier);
+        curfit(0, m, reference.x, reference.y, w.data(), reference.x[0], reference.x[m - 1], k,
+               reference.s, nest, n, t.data(), c.data(), fp, wrk.data(), lwrk, iwrk.data(), ier);
         EXPECT_EQ(ier, reference.ier);
         ASSERT_EQ(n, reference.n);
         expect_agreement(reference.t, t.data(), n, "knots");
@@ -55,18 +56,17 @@ TEST(DierckxReference, FitsValuesAndDerivativesMatch) {
         EXPECT_NEAR(fp, reference.fp, relative_tolerance * std::max(reference.fp, 1e-20));
 
         std::vector<double> y(reference.points);
-        VARNO::detail::splev(t.data(), n, c.data(), k, reference.at, y.data(), reference.points,
-                             ier);
+        splev(t.data(), n, c.data(), k, reference.at, y.data(), reference.points, ier);
         expect_agreement(reference.derivatives[0], y.data(), reference.points, "values");
         for (int order = 1; order <= std::min(3, k); ++order) {
-            VARNO::detail::splder(t.data(), n, c.data(), k, order, reference.at, y.data(),
-                                  reference.points, wrk.data(), ier);
+            splder(t.data(), n, c.data(), k, order, reference.at, y.data(), reference.points,
+                   wrk.data(), ier);
             expect_agreement(reference.derivatives[order], y.data(), reference.points,
                              "derivative " + std::to_string(order));
         }
         for (int i = 0; i < reference.spalde_points; ++i) {
             double d[6];
-            VARNO::detail::spalde(t.data(), n, c.data(), k + 1, reference.spalde_at[i], d, ier);
+            spalde(t.data(), n, c.data(), k + 1, reference.spalde_at[i], d, ier);
             expect_agreement(reference.spalde + (k + 1) * i, d, k + 1, "all derivatives");
         }
     }

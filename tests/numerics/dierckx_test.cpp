@@ -20,11 +20,9 @@ TEST(Givens, RotationAnnihilatesThePivotWithoutOverflow) {
 
 TEST(Fpchec, KnotsMustBeOrderedAndSupportedByData) {
     double const x[] = {0.0, 1.0, 2.0, 3.0, 4.0, 5.0};
-    std::vector<double> t = {0, 0, 0, 0, 2.5, 5, 5, 5, 5};
+    // Ordinary knots pass in the given-knot fits below; here the edge cases.
+    std::vector<double> t = {0, 0, 0, 0, 2.5, 2.5, 5, 5, 5, 5}; // repeated interior knot
     int ier = -1;
-    fpchec(x, 6, t.data(), 9, 3, ier);
-    EXPECT_EQ(ier, 0);
-    t = {0, 0, 0, 0, 2.5, 2.5, 5, 5, 5, 5}; // repeated interior knot
     fpchec(x, 6, t.data(), 10, 3, ier);
     EXPECT_EQ(ier, 10);
     t = {0, 0, 0, 0, 4.2, 4.4, 4.6, 5, 5, 5, 5}; // three B-splines share one data point
