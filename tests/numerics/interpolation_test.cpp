@@ -106,8 +106,7 @@ TEST(ParabolicInterp, SmallTables) {
     EXPECT_EQ(two.slopes, (std::vector<double>{0.0, 0.0, 0.0}));
 
     double out = 0.0;
-    std::size_t const none = 0, ni = 1;
-    EXPECT_EQ(error_text([&] { Calc_ParabolicInterp(x, y, none, true, x, ni, &out, &out, &out); }),
+    EXPECT_EQ(error_text([&] { Calc_ParabolicInterp(x, y, 0, true, x, 1, &out, &out, &out); }),
               "An error occurred in function Calc_ParabolicInterp");
 }
 
