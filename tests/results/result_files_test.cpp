@@ -141,7 +141,6 @@ struct record_files : ::testing::Test {
 
 TEST_F(record_files, FlagWordFollowsTheSimulationAndFixesTheItems) {
     noise_ptr const record = filled();
-    EXPECT_EQ(written(*record, tsour), expected_record(*record, 31));
     EXPECT_EQ(written(*record, nlcp), expected_record(*record, 28));
     tsour->direction_count = 99;
     EXPECT_EQ(written(*record, tsour), expected_record(*record, 31));
@@ -180,10 +179,8 @@ TEST_F(record_files, ShortFileKeepsWhatWasRead) {
 
 TEST(IndicatorFiles, BlockIsTheTwentySevenDoublesInOrder) {
     // The indicator held at each place of the block.
-    std::vector<int> indicator_at_place = {10, 11, 13, 14, 19, 20, 26, 27, 28, 29};
-    for (int indicator = 30; indicator <= 46; ++indicator) {
-        indicator_at_place.push_back(indicator);
-    }
+    int const indicator_at_place[] = {10, 11, 13, 14, 19, 20, 26, 27, 28, 29, 30, 31, 32, 33,
+                                      34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46};
     bytes_t block;
     for (int place = 0; place < 27; ++place) {
         append(block, 100.0 + place);
