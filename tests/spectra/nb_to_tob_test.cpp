@@ -25,23 +25,16 @@ boost::shared_ptr<spectrum_t> filtered(boost::shared_ptr<spectrum_t> input,
 TEST(NbToTob, WhiteNoiseFillsEachBandByItsWidth) {
     // L dB per line: a band reads L + 10*log10(width/df), however faint the lines (0 dB lines
     // sum to an audible band). At 4 Hz the 50 to 160 Hz bands span fewer than ten lines and take
-    // their share of the octave around them. The direct summation at a line count of 0 agrees.
+    // their share of the octave around them.
     for (double level : {0.0, 40.0}) {
         for (double df : {1.0, 4.0}) {
-            boost::shared_ptr<spectrum_t> input = narrowband(df, 20000.0, df, level);
             for (nbtob_conversion_method method : all_methods) {
-                boost::shared_ptr<spectrum_t> direct = spectrum_t::create_tob();
-                ASSERT_EQ(convert_spectrum_to_tob(input, direct, method, 0), 0);
-                boost::shared_ptr<spectrum_t> output = filtered(input, method);
+                auto const output = filtered(narrowband(df, 20000.0, df, level), method);
                 for (std::size_t band = 0; band < 24; ++band) {
-                    double const expected = level + 10.0 * std::log10(band_width(band) / df);
-                    std::string const what =
-                        "level " + std::to_string(level) + " df " + std::to_string(df) +
-                        " method " + std::to_string(method) + " band " + std::to_string(band);
-                    EXPECT_NEAR(output->at(band), expected, 0.5) << what;
-                    if (df == 1.0) {
-                        EXPECT_NEAR(direct->at(band), expected, 0.5) << "direct, " << what;
-                    }
+                    EXPECT_NEAR(output->at(band), level + 10.0 * std::log10(band_width(band) / df),
+                                0.5)
+                        << "level " << level << " df " << df << " method " << method << " band "
+                        << band;
                 }
             }
         }
@@ -52,8 +45,7 @@ TEST(NbToTob, ToneAtABandCentreLandsInThatBand) {
     for (nbtob_conversion_method method : all_methods) {
         for (std::size_t band : {6u, 13u, 20u}) {
             double const centre = tob_frequency_range_ptr->frequencies[band];
-            boost::shared_ptr<spectrum_t> output =
-                filtered(single_line(centre, 60.0, 10.0), method);
+            auto output = filtered(single_line(centre, 60.0, 10.0), method);
             // An octave Butterworth filter, in place of the unresolved 200 Hz band, passes the
             // tone 0.4 dB down; the skirts of the others pass about 18.6 dB less into the
             // neighbours. The unresolved 160 Hz band takes its width's share of the octave

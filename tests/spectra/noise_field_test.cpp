@@ -15,8 +15,7 @@ TEST(NoiseField, LevelsAreFrequencyMajorAndColumnsAreSharedUntilOwned) {
 
     double distances[] = {100.0, 200.0};
     double data[] = {7.0, 8.0};
-    boost::shared_ptr<noise_field_column_range_t> shared =
-        boost::make_shared<noise_field_column_range_t>(2, distances, nullptr, data);
+    auto shared = boost::make_shared<noise_field_column_range_t>(2, distances, nullptr, data);
     EXPECT_EQ(shared->angles, (std::vector<double>{0.0, 0.0})) << "a missing list is zeroed";
     noise_field_t first(tob_frequency_range_ptr, shared);
     noise_field_t second(tob_frequency_range_ptr, shared);
@@ -43,12 +42,11 @@ TEST(NoiseField, LogAddMatchesGridsByIdentityAndColumnsBySize) {
     EXPECT_NEAR(a->at(3, 1), 1.5, 1e-12) << "levels at or below 1 dB carry no energy";
 
     char const* expected = "An error occurred in function noise_field_t::log_add";
-    boost::shared_ptr<noise_field_t> on_equal_grid =
+    auto on_equal_grid =
         boost::make_shared<noise_field_t>(tob_frequency_range_ptr->clone(), a->column_range);
     EXPECT_EQ(message_of_log_add(a, on_equal_grid, a), expected);
     EXPECT_EQ(message_of_log_add(a, a, on_equal_grid), expected);
-    boost::shared_ptr<noise_field_t> three_columns =
-        noise_field_t::create_tob(columns_at({0.0, 45.0, 90.0}));
+    auto three_columns = noise_field_t::create_tob(columns_at({0.0, 45.0, 90.0}));
     EXPECT_EQ(message_of_log_add(a, three_columns, a), expected);
     EXPECT_EQ(message_of_log_add(a, b, three_columns), expected);
     EXPECT_NEAR(a->at(0, 0), 53.0103, 1e-4) << "nothing is written before the checks";

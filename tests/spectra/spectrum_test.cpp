@@ -34,8 +34,7 @@ TEST(Spectrum, LogAddSumsEnergiesWithTheOneDecibelCut) {
 
 TEST(Spectrum, LogAddNeedsTheVerySameGridObject) {
     boost::shared_ptr<spectrum_t> a = tob_filled_with(40.0);
-    boost::shared_ptr<spectrum_t> on_copy =
-        boost::make_shared<spectrum_t>(tob_frequency_range_ptr->clone());
+    auto on_copy = boost::make_shared<spectrum_t>(tob_frequency_range_ptr->clone());
     on_copy->fill_with(30.0);
     char const* expected = "An error occurred in function spectrum_t::log_add";
     EXPECT_EQ(message_of_log_add(a, on_copy, a), expected);
@@ -99,8 +98,7 @@ TEST(Spectrum, ClearCloneAndCopy) {
     boost::shared_ptr<spectrum_t> spectrum = tob_filled_with(45.0);
     spectrum->tones.push_back(tone_id_t::create_eo(1, 2, 64.0, 45.0));
 
-    boost::shared_ptr<spectrum_t> target =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_nb(0, 10, 1));
+    auto target = boost::make_shared<spectrum_t>(frequency_range_t::create_nb(0, 10, 1));
     EXPECT_FALSE(spectrum->copy_to(target)) << "copy_to reports false although it copied";
     EXPECT_EQ(target->values, spectrum->values);
     EXPECT_NE(target->frequency_range, tob_frequency_range_ptr);

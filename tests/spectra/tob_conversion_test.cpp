@@ -70,9 +70,6 @@ TEST(TobConversion, LineWidthsAreSharedByTheirOverlapWithBands) {
     boost::shared_ptr<spectrum_t> input = narrowband(30.0, 130.0, 10.0, 10.0);
     boost::shared_ptr<spectrum_t> output = spectrum_t::create_tob();
     ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_width_overlap, 0), 0);
-    // By hand for the 50 Hz band: 40 Hz gives (40 - 44.668 + 5)/10 = 0.0332, 50 Hz all of
-    // itself, 60 Hz (56.234 - 60 + 5)/10 = 0.1234.
-    EXPECT_NEAR(output->at(0), 10.631746756198845, 1e-12);
     for (std::size_t band = 0; band < 4; ++band) {
         EXPECT_NEAR(output->at(band), 10.0 + 10.0 * std::log10(band_width(band) / 10.0), 1e-12);
     }
@@ -133,8 +130,7 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
 
     // The one cut is on the band total: a band energy of 0.5 is silence, but two 0.9 dB lines
     // (1000 and 1010 Hz) add up to 10*log10(2 * 10^0.09) = 3.9103 dB.
-    boost::shared_ptr<spectrum_t> faint =
-        listed_lines({1000.0, 1010.0}, {10.0 * std::log10(0.25), 10.0 * std::log10(0.25)});
+    auto faint = listed_lines({1000.0, 1010.0}, {10.0 * std::log10(0.25), 10.0 * std::log10(0.25)});
     ASSERT_EQ(convert_spectrum_to_tob(faint, output, nbtob_line_band, 0), 0);
     EXPECT_EQ(output->at(13), 0.0);
     faint->values = {0.9, 0.9};
@@ -143,31 +139,27 @@ TEST(TobConversion, DiscreteLinesAreSharedAcrossBandEdges) {
 }
 
 TEST(TobConversion, FieldColumnsConvertAsSeparateSpectra) {
-    std::size_t const columns = 3;
-    boost::shared_ptr<frequency_range_t> listed = frequency_range_t::create_dt(40);
+    auto const listed = frequency_range_t::create_dt(40);
     for (std::size_t k = 0; k < 40; ++k) {
         listed->frequencies[k] = 40.0 * std::pow(1.15, static_cast<double>(k));
     }
-    boost::shared_ptr<noise_field_column_range_t> column_range =
-        boost::make_shared<noise_field_column_range_t>(columns, nullptr, nullptr, nullptr);
+    auto const columns = columns_at({0.0, 45.0, 90.0});
     for (auto const& range : {frequency_range_t::create_nb(20.0, 12000.0, 5.0), listed}) {
-        auto const field = boost::make_shared<noise_field_t>(range, column_range);
-        for (std::size_t k = 0; k < range->count; ++k) {
-            for (std::size_t column = 0; column < columns; ++column) {
-                field->at(k, column) = 20.0 + 15.0 * std::sin(0.37 * k + 2.1 * column);
-            }
+        auto const field = boost::make_shared<noise_field_t>(range, columns);
+        for (std::size_t i = 0; i < field->values.size(); ++i) {
+            field->values[i] = 20.0 + 15.0 * std::sin(0.37 * static_cast<double>(i));
         }
         for (int method = 0; method < 3; ++method) {
             for (int line_count : {0, 3}) {
                 auto const how = static_cast<nbtob_conversion_method>(method);
-                boost::shared_ptr<noise_field_t> bands = noise_field_t::create_tob(column_range);
+                auto const bands = noise_field_t::create_tob(columns);
                 ASSERT_EQ(convert_noise_field_to_tob(field, bands, how, line_count), 0);
-                for (std::size_t column = 0; column < columns; ++column) {
-                    boost::shared_ptr<spectrum_t> one = boost::make_shared<spectrum_t>(range);
+                for (std::size_t column = 0; column < 3; ++column) {
+                    auto const one = boost::make_shared<spectrum_t>(range);
                     for (std::size_t k = 0; k < range->count; ++k) {
                         one->at(k) = field->at(k, column);
                     }
-                    boost::shared_ptr<spectrum_t> expected = spectrum_t::create_tob();
+                    auto const expected = spectrum_t::create_tob();
                     ASSERT_EQ(convert_spectrum_to_tob(one, expected, how, line_count), 0);
                     for (std::size_t band = 0; band < 24; ++band) {
                         EXPECT_NEAR(bands->at(band, column), expected->at(band), 1e-9)
