@@ -5,27 +5,17 @@
 
 #include <tuple>
 
-TEST(Environment, AddedObjectsAreSharedWithTheCaller) {
-    environment_t environment;
-    auto const aircraft = environment.add_aircraft();
-    auto const tsour = environment.add_tsour_calculation();
-    auto const simulation = environment.add_tsour_simulation(aircraft, tsour);
-    environment_t const copy = environment;
-    EXPECT_EQ(std::make_tuple(environment.aircraft.at(0), copy.simulations.at(0),
-                              simulation->aircraft, simulation->tsour),
-              std::make_tuple(aircraft, simulation, aircraft, tsour));
-    // Nothing checks that the parts belong to the environment, or exist.
-    environment.add_tsour_simulation(nullptr, tsour);
-    EXPECT_FALSE(environment.simulations.at(1)->aircraft);
-}
-
-TEST(Environment, RemovalKeepsOrderIgnoresBadIndicesAndDoesNotCascade) {
+TEST(Environment, AddedObjectsAreSharedAndRemovalKeepsOrderIgnoresBadIndicesWithoutCascade) {
     environment_t environment;
     auto const first = environment.add_aircraft();
     auto const second = environment.add_aircraft();
-    auto const simulation =
-        environment.add_tsour_simulation(first, environment.add_tsour_calculation());
+    auto const tsour = environment.add_tsour_calculation();
+    auto const simulation = environment.add_tsour_simulation(first, tsour);
     environment.add_nlcp_simulation(second, environment.add_nlcp_calculation());
+    environment_t const copy = environment;
+    EXPECT_EQ(std::make_tuple(environment.aircraft.at(0), copy.simulations.at(0),
+                              simulation->aircraft, simulation->tsour),
+              std::make_tuple(first, simulation, first, tsour));
 
     environment.remove_simulation_at(2);
     environment.remove_aircraft_at(0);
@@ -39,6 +29,8 @@ TEST(Environment, RemovalKeepsOrderIgnoresBadIndicesAndDoesNotCascade) {
     environment.remove_simulation_at(0);
     EXPECT_EQ(environment.simulations.at(0)->calculation_type,
               calculation_integrated_aircraft_noise);
+    // Nothing checks that the parts belong to the environment, or exist.
+    EXPECT_FALSE(environment.add_tsour_simulation(nullptr, tsour)->aircraft);
 }
 
 TEST(Environment, ScalingsCompareTwoEngines) {

@@ -115,23 +115,19 @@ boost::shared_ptr<simulation_t> simulation_of(std::vector<source_type_t> const& 
 
 } // namespace
 
-TEST(OptionLookup, SourceWithoutRecordGetsTheVeryDefaultObject) {
-    auto const simulation = simulation_of({source_jet, source_fan_aft}, {source_nai});
-    auto const& defaults = *simulation->tsour->prediction_options;
-    EXPECT_EQ(simulation->get_jet_prediction_options(0), defaults.jet);
-    EXPECT_EQ(simulation->get_aft_fan_prediction_options(1), defaults.aft_fan);
-    EXPECT_EQ(simulation->get_nai_prediction_options(0), defaults.nai);
-    EXPECT_EQ(simulation->get_spoiler_prediction_options(0), defaults.spoiler);
-    // The kind is not compared: a jet source asked for turbine options gets the turbine default.
-    EXPECT_EQ(simulation->get_turbine_prediction_options(0), defaults.turbine);
-}
-
-TEST(OptionLookup, TypedGettersChooseTheDefaultByTheSourceTypeOrTakeTheSourcesOwn) {
+TEST(OptionLookup, GettersGiveTheVeryDefaultObjectByTheSourceTypeOrTheSourcesOwnRecord) {
     auto const simulation =
         simulation_of({source_fan_forward, source_fan_aft, source_compressor, source_residual},
                       {source_inboard_cavity, source_outboard_cavity, source_extraneous_airframe,
                        source_nai, source_spoiler});
     auto const& defaults = *simulation->tsour->prediction_options;
+    EXPECT_EQ(simulation->get_aft_fan_prediction_options(1), defaults.aft_fan);
+    EXPECT_EQ(simulation->get_nai_prediction_options(3), defaults.nai);
+    EXPECT_EQ(simulation->get_spoiler_prediction_options(4), defaults.spoiler);
+    // The kind is not compared: a source asked for another kind's options gets that default.
+    EXPECT_EQ(simulation->get_jet_prediction_options(3), defaults.jet);
+    EXPECT_EQ(simulation->get_turbine_prediction_options(0), defaults.turbine);
+    // The shared getters choose the default by the source type.
     EXPECT_EQ(simulation->get_comp_fan_prediction_options(0), defaults.fwd_fan);
     EXPECT_EQ(simulation->get_comp_fan_prediction_options(1), defaults.aft_fan);
     EXPECT_EQ(simulation->get_comp_fan_prediction_options(2), defaults.compressor);
