@@ -5,7 +5,7 @@
 
 #include <tuple>
 
-TEST(Aircraft, NewAircraftHasOneEngineThreeAttenuationListsAndFindsItsAirframeSources) {
+TEST(Aircraft, NewAircraftAndItsSources) {
     aircraft_t aircraft;
     ASSERT_EQ(aircraft.engines.size(), 1u);
     EXPECT_EQ(aircraft.engines[0]->index, 0);
@@ -21,9 +21,8 @@ TEST(Aircraft, NewAircraftHasOneEngineThreeAttenuationListsAndFindsItsAirframeSo
     }
     EXPECT_EQ(aircraft.find_airframe_source_index(source_flaps), 1);
     EXPECT_EQ(aircraft.find_airframe_source_index(source_spoiler), -1);
-}
 
-TEST(Aircraft, SourceStartsActiveAndKnowsItsClass) {
+    // A source starts active, on the first engine, and knows its class.
     source_t const cror(source_cror_propellers);
     EXPECT_TRUE(cror.active && cror.engine_index == 0);
     EXPECT_TRUE(cror.is_cror_engine_source() && cror.is_global_decomposable_engine_source());

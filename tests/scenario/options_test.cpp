@@ -10,7 +10,7 @@
 
 using test_support::error_text;
 
-TEST(PredictionOptions, ModelDefaultsThatSelectBehaviour) {
+TEST(PredictionOptions, ModelDefaultsThatSelectBehaviourAndTheirEnscaSet) {
     default_prediction_options_t const options;
     // The buzz-saw record has no factory to name its kind; the others are named by theirs.
     EXPECT_EQ(options.bsn->source_type, source_fan_forward_buzz_saw);
@@ -26,9 +26,8 @@ TEST(PredictionOptions, ModelDefaultsThatSelectBehaviour) {
               (std::vector<double>{-0.0169045487453876, 3.8369353762419, -90.4001368778021}));
     EXPECT_EQ(options.nai->linear_coefficients, (std::vector<double>{0.0, 0.0}));
     EXPECT_EQ(options.extraneous->quadratic_coefficients.size(), 3u);
-}
 
-TEST(PredictionOptions, EnscaOptionsChangeOnlyTheJetTurbineAndForwardFanChoices) {
+    // The ENSCA set changes only the jet, turbine and forward fan choices.
     auto const ensca = default_prediction_options_t::create_ensca_options();
     EXPECT_EQ(std::make_tuple(ensca->jet->jet_method, ensca->turbine->turbine_method,
                               ensca->fwd_fan->fwd_fan_option, ensca->fwd_fan->comp_fan_option_1,
@@ -36,7 +35,7 @@ TEST(PredictionOptions, EnscaOptionsChangeOnlyTheJetTurbineAndForwardFanChoices)
               std::make_tuple(jet_sae_arp876f_double_stream, turbine_sae_arp876f, 1, 0, 0));
 }
 
-TEST(PredictionOptions, FactoriesMakeTheRecordOfEachKind) {
+TEST(PredictionOptions, FactoriesMakeTheRecordOfEachKindAndRefuseOthersByName) {
     for (auto type : {source_jet, source_turbine, source_combustion, source_fan_forward,
                       source_fan_aft, source_compressor}) {
         EXPECT_EQ(engine_source_prediction_t::create(type)->source_type, type);
@@ -45,9 +44,7 @@ TEST(PredictionOptions, FactoriesMakeTheRecordOfEachKind) {
         auto const type = static_cast<source_type_t>(value);
         EXPECT_EQ(airframe_source_prediction_t::create(type)->source_type, type);
     }
-}
-
-TEST(PredictionOptions, FactoriesRefuseOtherKindsByName) {
+    // Any other kind is refused by name.
     for (int value : {4, 6, 11, 12, -1}) {
         auto const type = static_cast<source_type_t>(value);
         EXPECT_EQ(error_text([&] { engine_source_prediction_t::create(type); }),
@@ -62,7 +59,7 @@ TEST(PredictionOptions, FactoriesRefuseOtherKindsByName) {
     }
 }
 
-TEST(TranspositionOptions, DefaultsHoldEverySourceTypeWithItsMeasurementDistance) {
+TEST(TranspositionOptions, DefaultsOfEverySourceTypeAndOfTheWholeAircraft) {
     default_transposition_options_t const options;
     // Measurement distance (m) of each source type, by its number.
     double const distances[] = {10, 20, 20, 0,  0,  40, 20, 20, 20, 20, 20, 20,
@@ -86,11 +83,9 @@ TEST(TranspositionOptions, DefaultsHoldEverySourceTypeWithItsMeasurementDistance
     EXPECT_EQ(std::make_tuple(common.ground_reflection_method, common.slit_pore_porosity,
                               common.slit_pore_flow_resistivity, common.common_option_4),
               std::make_tuple(ground_slit_pore_user_defined, 0.5, 50.0, 4));
-}
 
-TEST(TranspositionOptions, TotalAircraftTakesNoSourceTypeDefaults) {
-    default_transposition_options_t const options;
-    // The records are plain, without virtual functions: the holder knows what it made.
+    // The total of the aircraft takes none of the per-type defaults. The records are plain,
+    // without virtual functions: the holder knows what it made.
     auto const& record =
         static_cast<total_aircraft_transposition_t const&>(*options.total_aircraft);
     EXPECT_EQ(std::make_tuple(record.source_distance, record.source_option_2, record.source_flag_6,
