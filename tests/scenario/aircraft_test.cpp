@@ -77,7 +77,7 @@ TEST(AircraftGeometry, SubRecordsAndAddedPartsKeepArgumentOrder) {
     EXPECT_TRUE(aero.profiles.empty());
 }
 
-TEST(MeasuredNoise, NewRecordHoldsItsElementsWithOneParameterPerFamily) {
+TEST(MeasuredNoise, NewRecordHoldsItsElementsWithOneParameterPerFamilyInItsCanonicalUnit) {
     measured_source_noise_t const noise(2);
     ASSERT_EQ(noise.elements.size(), 2u);
     EXPECT_NE(noise.elements[0], noise.elements[1]);
@@ -90,9 +90,8 @@ TEST(MeasuredNoise, NewRecordHoldsItsElementsWithOneParameterPerFamily) {
     element.add_power_management_parameter(power_parameter_fn, 3.0, power_unit_kn);
     ASSERT_EQ(element.power_management->size(), 1u);
     EXPECT_EQ(element.power_management->at({power_parameter_fn, power_unit_dan})->value, 300.0);
-}
 
-TEST(MeasuredNoise, PowerSettingsAreStoredInTheCanonicalUnitOfTheirFamily) {
+    // Each family's parameters are stored in its canonical unit.
     struct row {
         int type, unit, stored_unit;
         double value, stored_value;
@@ -112,12 +111,12 @@ TEST(MeasuredNoise, PowerSettingsAreStoredInTheCanonicalUnitOfTheirFamily) {
         {16, 5, 5, 3.0, 3.0},
     };
     for (auto const& r : rows) {
-        measured_source_noise_element_t element;
-        element.add_power_management_parameter(
+        measured_source_noise_element_t fresh;
+        fresh.add_power_management_parameter(
             static_cast<power_management_parameter_type_t>(r.type), r.value,
             static_cast<power_management_parameter_unit_t>(r.unit));
-        ASSERT_EQ(element.power_management->size(), 1u) << r.type;
-        auto const& entry = *element.power_management->begin();
+        ASSERT_EQ(fresh.power_management->size(), 1u) << r.type;
+        auto const& entry = *fresh.power_management->begin();
         EXPECT_EQ(std::make_tuple(entry.first.first, entry.first.second, entry.second->unit),
                   std::make_tuple(r.type, r.stored_unit, r.stored_unit));
         EXPECT_DOUBLE_EQ(entry.second->value, r.stored_value) << r.type;

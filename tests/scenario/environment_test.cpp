@@ -60,7 +60,6 @@ TEST(Simulation, FactoriesSetOneCalculationWithItsDefaultsAndTheSharedLinearInte
     auto const& calculation = *tsour->tsour;
     EXPECT_EQ(calculation.leading_value, 1.0);
     EXPECT_TRUE(calculation.engine_sources_enabled && calculation.airframe_sources_enabled);
-    EXPECT_TRUE(calculation.prediction_options);
     EXPECT_EQ(calculation.transposition_options->total_aircraft->source_option_2, 0);
 
     // An integrated calculation transposes the total of the aircraft with its own setting.
