@@ -2,16 +2,13 @@
 #include <calc-common/results.hpp>
 
 #include "metrics_test_support.hpp"
-#include "support/error_text.hpp"
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 using namespace metrics_test;
-using test_support::error_text;
 
 TEST(EffectivePerceivedNoise, TriangularHistoryHasTheClosedFormDurationCorrection) {
     // PNLT falls by a dB per sample on each side of a 100 PNdB peak. The M = floor(10/a)
@@ -112,80 +109,4 @@ TEST(FillIndicators, FillsTheirFieldsOnlyAndAnglesWhereTheMaximaOccur) {
     EXPECT_EQ(record->na, 1.0);
     EXPECT_NEAR(record->exposure.avg_dba_max, 10.0 * std::log10((1e8 + 1e7) / 2.0), 1e-9);
     EXPECT_EQ(record->nni + record->wecpnl + record->senel, -3.0);
-}
-
-TEST(Exposure, WeighsEachPeriodOfTheDay) {
-    // One 90 dB(A) SEL event spread over 24 h, with the evening (CNEL only) and night
-    // weightings; 07:00 is day, 22:00 is night.
-    struct row {
-        double hour, dnl, cnel;
-    };
-    double const base = 90.0 - 10.0 * std::log10(86400.0);
-    double const evening = 10.0 * std::log10(3.0);
-    for (row const r :
-         {row{12.0, base, base}, row{7.0, base, base}, row{6.99, base + 10, base + 10},
-          row{19.0, base, base + evening}, row{21.99, base, base + evening},
-          row{22.0, base + 10, base + 10}, row{0.0, base + 10, base + 10}}) {
-        std::vector<noise_event_t> const events = {event_at(r.hour, 90.0)};
-        EXPECT_NEAR(Calc_DayNightLevel(events), r.dnl, 1e-9) << r.hour;
-        EXPECT_NEAR(Calc_CommunityNoiseEquivalentLevel(events), r.cnel, 1e-9) << r.hour;
-        EXPECT_NEAR(Calc_EquivalentLevel(events, 0.0, 24.0), base, 1e-9);
-    }
-}
-
-TEST(Exposure, CountsAndSumsEventsOverPeriodsAndThresholds) {
-    std::vector<noise_event_t> events = {event_at(23.0, 90.0, 69.9), event_at(3.0, 90.0, 70.0),
-                                         event_at(12.0, 90.0, 70.1), event_at(15.0, 90.0, 85.0)};
-    events[0].time_above = 12.5;
-    events[3].time_above = 20.0;
-    EXPECT_NEAR(Calc_EquivalentLevel(events, 22.0, 7.0),
-                90.0 + 10.0 * std::log10(2.0 / (9.0 * 3600.0)), 1e-9);
-    EXPECT_EQ(Calc_NumberAbove(events, 70.0), 2.0);
-    EXPECT_EQ(Calc_TotalTimeAbove(events), 32.5);
-    // NEF: 10 log10(2 * 10^10 + 16.67 * 2 * 10^9) - 88.
-    EXPECT_NEAR(Calc_NoiseExposureForecast(events), 10.0 * std::log10(2.0e9 + 16.67 * 2.0e9) - 88.0,
-                1e-9);
-    EXPECT_EQ(Calc_DayNightLevel({}), 0.0);
-    EXPECT_EQ(Calc_NoiseExposureForecast({}), 0.0);
-}
-
-TEST(MetricsInput, BadInputNamesTheFunctionAndTheFault) {
-    boost::shared_ptr<spectrum_t> narrowband =
-        boost::make_shared<spectrum_t>(frequency_range_t::create_nb(50.0, 10000.0, 50.0));
-    std::vector<noise_event_t> late(1);
-    late[0].time_of_day = 24.0;
-    EXPECT_EQ(
-        error_text([&] { Calc_PerceivedNoiseLevel(narrowband); }),
-        "Calc_PerceivedNoiseLevel: the spectrum is not on the third-octave grid (24 bands, 50 "
-        "Hz to 10 kHz)");
-    EXPECT_EQ(error_text([&] { Calc_AWeightedLevel(boost::shared_ptr<spectrum_t>()); }),
-              "Calc_AWeightedLevel: the spectrum is not on the third-octave grid (24 bands, 50 Hz "
-              "to 10 kHz)");
-    EXPECT_EQ(error_text([&] { Calc_EffectivePerceivedNoiseLevel({}, 0.5); }),
-              "Calc_EffectivePerceivedNoiseLevel: the history is empty");
-    EXPECT_EQ(error_text([&] { Calc_SoundExposureLevel(held(flat(60.0), 4), 0.0); }),
-              "Calc_SoundExposureLevel: the time step is not a positive number of seconds");
-    EXPECT_EQ(error_text([&] { Calc_ToneCorrectionDetail(std::vector<double>(23, 60.0)); }),
-              "Calc_ToneCorrection: expected 24 third-octave levels, 50 Hz to 10 kHz");
-    EXPECT_EQ(error_text([&] { Calc_DayNightLevel(late); }),
-              "Calc_DayNightLevel: the time of day of an event is not within 0 to 24 hours");
-    // A private copy of the grid is still the grid.
-    boost::shared_ptr<spectrum_t> own = tob_spectrum(flat(60.0));
-    own->give_frequency_range_ownership();
-    EXPECT_EQ(Calc_AWeightedLevel(own), Calc_AWeightedLevel(flat(60.0)));
-}
-
-TEST(MetricsInput, NotANumberPropagates) {
-    std::vector<double> levels = flat(60.0);
-    levels[7] = std::numeric_limits<double>::quiet_NaN();
-    std::vector<boost::shared_ptr<spectrum_t>> history = held(flat(60.0), 4);
-    history[2] = tob_spectrum(levels);
-    time_history_metrics_t const m = Calc_TimeHistoryMetrics(history, 0.5);
-    for (double const value :
-         {Calc_OverallLevel(tob_spectrum(levels)), Calc_AWeightedLevel(levels),
-          Calc_PerceivedNoiseLevel(levels), Calc_ToneCorrectionDetail(levels).correction,
-          m.dba_max.level, m.perceived.epnl, m.sel, m.sel_10db_down,
-          Calc_EffectivePerceivedNoiseLevel(history, 0.5)}) {
-        EXPECT_TRUE(std::isnan(value));
-    }
 }
