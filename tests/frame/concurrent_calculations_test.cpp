@@ -24,8 +24,7 @@ using spectrum_ptr = boost::shared_ptr<spectrum_t>;
 
 // A finished tree of results: engine and airframe sources at two points, prepared once.
 boost::shared_ptr<simulation_t> prepared_simulation() {
-    environment_t environment;
-    auto aircraft = environment.add_aircraft();
+    auto aircraft = boost::make_shared<aircraft_t>();
     for (source_type_t type : {source_jet, source_fan_forward, source_turbine}) {
         aircraft->engine_sources.push_back(boost::make_shared<source_t>(type));
     }
@@ -35,7 +34,7 @@ boost::shared_ptr<simulation_t> prepared_simulation() {
         aircraft->airframe_sources.push_back(boost::make_shared<source_t>(type));
     }
     auto simulation =
-        environment.add_tsour_simulation(aircraft, environment.add_tsour_calculation());
+        simulation_t::create_tsour(aircraft, boost::make_shared<tsour_calculation_t>());
     simulation->create_calculation_points(2);
     range_provider_t no_narrowband = [](boost::shared_ptr<source_noise_t>, std::size_t) {
         return boost::shared_ptr<frequency_range_t>();

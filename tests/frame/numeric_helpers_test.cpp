@@ -59,10 +59,9 @@ TEST(LevelEnergy, FastFormsAgreeWithThePowersOfTen) {
     for (double level : {-400.0, -3.5, 0.0, 0.1, 1.0, 20.0, 37.25, 94.0, 140.0, 300.0}) {
         double const energy = std::pow(10.0, level / 10.0);
         double const allowance = 1e-16 * (4.0 + std::fabs(level));
-        EXPECT_NEAR(VARNO::detail::fast_energy_of_level(level), energy, allowance * energy)
-            << level;
-        EXPECT_NEAR(VARNO::detail::fast_level_of_energy(energy), level, 4.0 * allowance) << level;
+        EXPECT_NEAR(fast_energy_of_level(level), energy, allowance * energy) << level;
+        EXPECT_NEAR(fast_level_of_energy(energy), level, 4.0 * allowance) << level;
     }
-    EXPECT_EQ(VARNO::detail::fast_energy_of_level(0.0), 1.0);
-    EXPECT_EQ(VARNO::detail::fast_level_of_energy(1.0), 0.0);
+    EXPECT_EQ(fast_energy_of_level(0.0), 1.0);
+    EXPECT_EQ(fast_level_of_energy(1.0), 0.0);
 }

@@ -8,19 +8,13 @@
 
 using namespace metrics_test;
 
-namespace {
-
-double const day_seconds = 10.0 * std::log10(86400.0);
-
-} // namespace
-
 TEST(Exposure, WeighsEachPeriodOfTheDay) {
     // One 90 dB(A) SEL event spread over 24 h, with the evening (CNEL only) and night
     // weightings; 07:00 is day, 22:00 is night.
     struct row {
         double hour, dnl, cnel;
     };
-    double const base = 90.0 - day_seconds;
+    double const base = 90.0 - 10.0 * std::log10(86400.0);
     double const evening = 10.0 * std::log10(3.0);
     for (row const r :
          {row{12.0, base, base}, row{7.0, base, base}, row{6.99, base + 10, base + 10},

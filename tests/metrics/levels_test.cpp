@@ -4,18 +4,86 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace metrics_test;
 
-TEST(ToneCorrection, SmoothSpectraHaveNoneAndTheLastBandFollowsTheSlope) {
+TEST(AWeighting, MatchesTheStandardTableAtNominalFrequencies) {
+    // The sound level meter standard's A-weightings, rounded to 0.1 dB, at the nominal
+    // frequencies 50 Hz to 10 kHz; the grid weights at exact mid-band frequencies must agree.
+    double const table[24] = {-30.2, -26.2, -22.5, -19.1, -16.1, -13.4, -10.9, -8.6,
+                              -6.6,  -4.8,  -3.2,  -1.9,  -0.8,  0.0,   0.6,   1.0,
+                              1.2,   1.3,   1.2,   1.0,   0.5,   -0.1,  -1.1,  -2.5};
+    for (std::size_t i = 0; i < 24; ++i) {
+        EXPECT_NEAR(Calc_AWeightedLevel(with_peak(0.0, i, 80.0)) - 80.0, table[i], 0.1) << i;
+    }
+    EXPECT_NEAR(Calc_AWeighting(1000.0), 0.0, 0.001);
+}
+
+TEST(OverallLevel, AddsBandsByEnergyAndKeepsSilenceSilent) {
+    struct row {
+        std::vector<double> levels;
+        double oaspl;
+    };
+    for (row const& r : {row{flat(60.0), 60.0 + 10.0 * std::log10(24.0)}, row{flat(0.0), 0.0},
+                         row{flat(1.0), 0.0}, row{with_peak(0.0, 5, 70.0), 70.0}}) {
+        EXPECT_NEAR(Calc_OverallLevel(tob_spectrum(r.levels)), r.oaspl, 1e-9);
+    }
+    // A silent band is not weighted into sound.
+    EXPECT_EQ(Calc_AWeightedLevel(tob_spectrum(flat(0.0))), 0.0);
+}
+
+TEST(Noy, FollowsTheCertificationFormulation) {
+    // Breakpoints of the regulation's formulation: 0.1 noy at SPL(d), 0.3 noy at SPL(e),
+    // 1 noy at SPL(b); doubling every 10 dB above 40 dB at 1 kHz.
+    struct row {
+        std::size_t band;
+        double level, noy;
+    };
+    for (row const r :
+         {row{13, 40.0, 1.0}, row{13, 70.0, 8.0}, row{13, 25.0, 0.3}, row{13, 16.0, 0.1},
+          row{13, 15.9, 0.0}, row{0, 64.0, 1.0}, row{0, 55.0, 0.3}, row{0, 49.0, 0.1},
+          row{18, 29.0, 1.0}, row{18, 4.0, 0.1}, row{23, 41.0, 1.0}, row{23, 21.0, 0.1}}) {
+        EXPECT_NEAR(Calc_Noy(r.band, r.level), r.noy, 1e-3 * r.noy) << r.band << " " << r.level;
+    }
+}
+
+TEST(Noy, IsContinuousAcrossEveryBreakpointOfEveryBand) {
+    // The slopes and breakpoints are typed separately; the lines must meet at 0.3 and 1 noy and
+    // at the upper breakpoint, which a mistyped constant breaks.
+    for (std::size_t band = 0; band < 24; ++band) {
+        for (double level = 0.0; level < 130.0; level += 0.1) {
+            double const below = Calc_Noy(band, level - 1e-9);
+            double const above = Calc_Noy(band, level + 1e-9);
+            if (below > 0.0) {
+                ASSERT_NEAR(below, above, 2e-3 * above) << band << " at " << level;
+            }
+        }
+    }
+}
+
+TEST(PerceivedNoiseLevel, CombinesTheLoudestBandAndAFractionOfAll) {
+    struct row {
+        std::vector<double> levels;
+        double pnl;
+    };
+    // One noy in every band: N = 0.85 + 0.15 * 24 noy, and PNL rises 10 dB per doubling of N.
+    std::vector<double> one_noy_everywhere = {64, 60, 56, 53, 51, 48, 46, 44, 42, 40, 40, 40,
+                                              40, 40, 38, 34, 32, 30, 29, 29, 30, 31, 37, 41};
+    for (row const& r : {row{with_peak(0.0, 13, 40.0), 40.0}, row{with_peak(0.0, 13, 70.0), 70.0},
+                         row{one_noy_everywhere, 40.0 + 10.0 * std::log2(0.85 + 0.15 * 24.0)},
+                         row{flat(0.0), 0.0}}) {
+        EXPECT_NEAR(Calc_PerceivedNoiseLevel(tob_spectrum(r.levels)), r.pnl, 1e-3);
+    }
+}
+
+TEST(ToneCorrection, ASmoothSlopeHasNoneAndTheLastBandFollowsTheSlope) {
     std::vector<double> sloping(24);
     for (std::size_t i = 0; i < 24; ++i) {
         sloping[i] = 90.0 - 1.5 * static_cast<double>(i);
     }
-    for (std::vector<double> const& levels : {flat(70.0), sloping}) {
-        tone_correction_t const c = Calc_ToneCorrectionDetail(tob_spectrum(levels));
-        EXPECT_EQ(c.correction, 0.0);
-        EXPECT_EQ(c.band_index, -1);
-    }
+    tone_correction_t const smooth = Calc_ToneCorrectionDetail(tob_spectrum(sloping));
+    EXPECT_EQ(std::make_pair(smooth.correction, smooth.band_index), std::make_pair(0.0, -1));
     // A tone in the last band is judged against the continued slope below it: F is its height.
     sloping[23] += 10.0;
     tone_correction_t const last = Calc_ToneCorrectionDetail(tob_spectrum(sloping));
