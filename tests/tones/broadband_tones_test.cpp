@@ -1,21 +1,9 @@
-#include <calc-common/tones.hpp>
-
 #include "support/allocation_counter.hpp"
 #include "tone_test_support.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
 
 using namespace tone_test;
 
 namespace {
-
-#include "tone_reference.inc"
-
-double const not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 // Runs the tone check on a spectrum whose tones are the bands in `tone_bands`, with the floor
 // filled as the separation leaves it.

@@ -1,18 +1,8 @@
-#include <calc-common/tones.hpp>
-
 #include "tone_test_support.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
 
 using namespace tone_test;
 
 namespace {
-
-#include "tone_reference.inc"
 
 struct harmonic_split {
     boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
@@ -92,8 +82,7 @@ TEST(EnscaBBTones, NothingIsReadOrWrittenOffTheGrid) {
     // which holds tones below, at the foot of and above the grid, is unchanged. None of them
     // adds to a band.
     std::vector<double> const levels(harmonic_levels, harmonic_levels + 24);
-    for (double fundamental : {0.0, -453.45, std::numeric_limits<double>::quiet_NaN(),
-                               std::numeric_limits<double>::infinity()}) {
+    for (double fundamental : {0.0, -453.45, not_a_number, infinity}) {
         harmonic_split none;
         none.tones->tones = {tone_id_t::create_bpf(-1, 1.0, 40.0, 80.0),
                              tone_id_t::create_bpf(0, 2.0, 0.0, 80.0),

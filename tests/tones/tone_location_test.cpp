@@ -1,19 +1,9 @@
-#include <calc-common/tones.hpp>
-
 #include "tone_test_support.hpp"
 #include "tones/tone_location.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
 
 using namespace tone_test;
 
 namespace {
-
-#include "tone_reference.inc"
 
 // The spectrum form, checked against the array form it must agree with.
 split_levels slope_located(std::vector<double> const& levels) {
@@ -146,7 +136,7 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
     spectrum->values[6] = 0.0;
     Calc_InterpSpec(spectrum, -99.0);
     EXPECT_DOUBLE_EQ(spectrum->values[5], 25.0);
-    spectrum->values[5] = std::numeric_limits<double>::quiet_NaN();
+    spectrum->values[5] = not_a_number;
     Calc_InterpSpec(spectrum, 0.0);
     EXPECT_TRUE(std::isnan(spectrum->values[5]));
 
@@ -170,8 +160,6 @@ TEST(HarmonicBands, ListsGridBandsTouchedByFiveHarmonics) {
     // 11.2 kHz is in the upper overlap of band 23, whose neighbour is off the grid. 44 Hz lies
     // below the grid in the overlap with band 0: only band 0 is listed. The rest have no band,
     // or higher harmonics that overflow.
-    double const nan = std::numeric_limits<double>::quiet_NaN();
-    double const inf = std::numeric_limits<double>::infinity();
     row const rows[] = {{1000.0, {13, 16, 18, 19, 20}},
                         {453.45, {9, 10, 12, 13, 14, 15, 16, 17}},
                         {5600.0, {20, 21, 23}},
@@ -179,8 +167,8 @@ TEST(HarmonicBands, ListsGridBandsTouchedByFiveHarmonics) {
                         {5.0, {}},
                         {0.0, {}},
                         {-100.0, {}},
-                        {nan, {}},
-                        {inf, {}},
+                        {not_a_number, {}},
+                        {infinity, {}},
                         {1e308, {}}};
     for (row const& r : rows) {
         std::vector<int> bands{99};
