@@ -38,8 +38,7 @@ separated bb_tones(std::vector<double> const& levels, double cut_frequency, int 
 } // namespace
 
 TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
-    std::vector<double> levels(24, 50.0);
-    levels[10] = 54.0;
+    std::vector<double> levels = flat_with_peak(50.0, 10, 54.0);
     levels[11] = 56.0;
     // Pass 1 gives band 10 back (4 dB above the 50 dB floor); the floor under band 11 then
     // rises to 52 dB and pass 2 gives band 11 back too (4 dB again).

@@ -112,14 +112,12 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
               (std::vector<double>{40.0, 42.0, 44.0, 46.0, 48.0}));
 
     // Two adjacent values: their line runs to both ends, below zero if it must.
-    std::vector<double> pair(24, 0.0);
-    pair[10] = 50.0;
+    std::vector<double> pair = flat_with_peak(0.0, 10, 50.0);
     pair[11] = 52.0;
     std::vector<double> const pair_filled = filled(pair);
     EXPECT_DOUBLE_EQ(pair_filled[0], 30.0);
     EXPECT_DOUBLE_EQ(pair_filled[23], 76.0);
-    std::vector<double> falling(24, 0.0);
-    falling[1] = 30.0;
+    std::vector<double> falling = flat_with_peak(0.0, 1, 30.0);
     falling[2] = 10.0;
     EXPECT_DOUBLE_EQ(filled(falling)[23], 10.0 - 20.0 * 21.0);
 
@@ -142,8 +140,7 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
 
     // In the array form a level of exactly 0.1 is neither gap nor value: the gap before it
     // finds no value to close it and stays.
-    std::vector<double> levels(24, 50.0);
-    levels[1] = 0.05;
+    std::vector<double> levels = flat_with_peak(50.0, 1, 0.05);
     levels[2] = 0.1;
     VARNO::detail::Calc_InterpSpecArray(levels);
     EXPECT_EQ(levels[1], 0.05);
