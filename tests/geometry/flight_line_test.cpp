@@ -60,14 +60,13 @@ TEST(ImpactAngle, LevelFlightMatchesTheClosedFormRetardedTime) {
             for (double y : {0.0, 250.0, -600.0}) {
                 double const tau =
                     (mach * x + std::sqrt(x * x + beta2 * (y * y + h * h))) / (c * beta2);
+                SCOPED_TRACE(testing::Message() << mach << ": " << x << ", " << y);
                 // Flying along +x (heading 0), and the same geometry turned to fly along -y.
                 for (impact const r : {solve(temperature, 0.0, mach, 0.0, 0.0, h, x, y),
                                        solve(temperature, 0.0, mach, 0.0, 90.0, h, y, -x)}) {
                     ASSERT_EQ(r.status, 0);
-                    EXPECT_NEAR(r.distance, c * tau, 1e-9 * c * tau)
-                        << mach << ": " << x << ", " << y;
-                    EXPECT_NEAR(r.elevation, std::asin(h / (c * tau)) * radians_to_degrees, 1e-9)
-                        << mach << ": " << x << ", " << y;
+                    EXPECT_NEAR(r.distance, c * tau, 1e-9 * c * tau);
+                    EXPECT_NEAR(r.elevation, std::asin(h / (c * tau)) * radians_to_degrees, 1e-9);
                     EXPECT_EQ(r.delay, 0.0);
                 }
             }
