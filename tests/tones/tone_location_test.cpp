@@ -95,8 +95,7 @@ TEST(FrequencyLocator, BridgesFlaggedBandsAndRebuildsTheBaseline) {
     // A silent spectrum: the spectrum form runs on with a baseline of band 0 alone (every level
     // is broadband while the margin exceeds it, every band a tone for a negative margin); the
     // array form returns at once whatever the margin.
-    std::vector<double> silent(24, 0.0005);
-    silent[3] = 0.001;
+    std::vector<double> const silent = flat_with_peak(0.0005, 3, 0.001);
     EXPECT_EQ(frequency_located(silent, 2.0, 0.01).broadband, silent);
     EXPECT_EQ(frequency_located(silent, 2.0, -1.0).tones, silent);
     split_levels const array_form = frequency_located(silent, 2.0, -1.0, true);
