@@ -11,7 +11,7 @@ using VARNO::detail::degrees_to_radians;
 
 namespace {
 
-// An attitude (pitch, heading, roll, and the attack or axis angle), the observer's offset from
+// An attitude (pitch, heading, roll, and the turn of the nose down), the observer's offset from
 // the source at (10, 20, 300), and the expected angle in degrees.
 struct sighting {
     double pitch, heading, roll, turn, dx, dy, dz, expected;
@@ -22,7 +22,9 @@ double const c30 = std::cos(30 * degrees_to_radians), s30 = std::sin(30 * degree
 
 } // namespace
 
-TEST(DopplerAngle, ObserversAroundTheFlightDirectionForEachAttitudeAngle) {
+TEST(DopplerAndEmissionAngle, AroundTheFlightDirectionAndAtCoincidentPoints) {
+    // The Doppler angle is measured from the nose turned down by the angle of attack, the emission
+    // angle from the nose raised by the axis angle: the same angle for opposite turns.
     // clang-format off
     sighting const rows[] = {
         {0, 0, 0, 0, 800, 0, 0, 0},     {0, 0, 0, 0, -800, 0, 0, 180},   // ahead, behind
@@ -32,17 +34,22 @@ TEST(DopplerAngle, ObserversAroundTheFlightDirectionForEachAttitudeAngle) {
         {30, 0, 0, 0, 2 * c30, 0, 1, 0}, {30, 0, 0, 0, 2 * c30, 0, -1, 60}, // pitch 30 climbs
         {0, 0, 0, 10, c10, 0, -s10, 0}, {0, 0, 0, 90, 0, 0, -50, 0},     // attack lowers the path
         {0, 0, 90, 90, 0, 50, 0, 0},                                     // roll tilts lower to +y
+        {0, 0, 0, -30, c30, 0, s30, 0}, {0, 0, 0, -30, 1, 0, 0, 30},     // axis raised by 30
+        {5, 0, 0, -2, 400, 0, 0, 7},                                     // pitch adds to the axis
     };
     // clang-format on
     for (std::size_t i = 0; i < std::size(rows); ++i) {
         sighting const& r = rows[i];
-        double angle = -1.0;
+        double doppler = -1.0, emission = -1.0, to_path, to_body;
         Calc_DopplerAngle(r.pitch, r.heading, r.roll, r.turn, 10.0, 20.0, 300.0, 10.0 + r.dx,
-                          20.0 + r.dy, 300.0 + r.dz, 0.0, &angle);
-        EXPECT_NEAR(angle, r.expected * degrees_to_radians, 1e-7) << "row " << i;
+                          20.0 + r.dy, 300.0 + r.dz, 0.0, &doppler);
+        Calc_EmissionAngle(r.pitch, 0.0, r.heading, r.roll, -r.turn, 10.0, 20.0, 300.0, 10.0 + r.dx,
+                           20.0 + r.dy, 300.0 + r.dz, 0.0, &emission, &to_path, &to_body);
+        EXPECT_NEAR(doppler, r.expected * degrees_to_radians, 1e-7) << "row " << i;
+        EXPECT_NEAR(emission, r.expected, 1e-6) << "row " << i;
     }
-    // The ear 60 above the ground point at 40 meets the source; on the threshold still counts as
-    // coincident; a not-a-number distance runs through.
+    // The ear 60 above the ground point at 40 meets the source; on the threshold the Doppler angle
+    // still counts as coincident; a not-a-number distance runs through.
     double angle = -1.0;
     Calc_DopplerAngle(0, 0, 0, 0, 5.0, 5.0, 100.0, 5.0, 5.0, 40.0, 60.0, &angle);
     EXPECT_EQ(angle, 1.5707963267948966);
@@ -50,30 +57,14 @@ TEST(DopplerAngle, ObserversAroundTheFlightDirectionForEachAttitudeAngle) {
     EXPECT_EQ(angle, 1.5707963267948966);
     Calc_DopplerAngle(0, 0, 0, 0, 0.0, 0.0, 0.0, std::nan(""), 0.0, 0.0, 0.0, &angle);
     EXPECT_TRUE(std::isnan(angle));
-}
-
-TEST(EmissionAngle, AxisRaisedAboveTheNoseAndTheDerivedAngles) {
-    // clang-format off
-    sighting const rows[] = {
-        {0, 0, 0, 0, 800, 0, 0, 0},    {0, 0, 0, 0, -800, 0, 0, 180}, {0, 0, 0, 0, 0, 0, -400, 90},
-        {0, 0, 0, 30, c30, 0, s30, 0}, {0, 0, 0, 30, 1, 0, 0, 30},    {0, 90, 0, 0, 0, -1, 0, 0},
-        {5, 0, 0, 2, 400, 0, 0, 7}, // pitch adds to the raised axis
-    };
-    // clang-format on
-    double angle, to_path, to_body;
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        sighting const& r = rows[i];
-        Calc_EmissionAngle(r.pitch, 0.0, r.heading, r.roll, r.turn, 10.0, 20.0, 300.0, 10.0 + r.dx,
-                           20.0 + r.dy, 300.0 + r.dz, 0.0, &angle, &to_path, &to_body);
-        EXPECT_NEAR(angle, r.expected, 1e-6) << "row " << i;
-    }
     // Coincident points give 90, and the angles to path (pitch 5, path 3, axis 2) and body.
+    double to_path, to_body;
     Calc_EmissionAngle(5.0, 3.0, 0.0, 0.0, 2.0, 0, 0, 100, 0, 0, 40, 60, &angle, &to_path,
                        &to_body);
     EXPECT_EQ(angle, 90.0);
     EXPECT_EQ(to_path, 86.0);
     EXPECT_EQ(to_body, 88.0);
-    // On the threshold the angle is still measured, unlike the Doppler angle.
+    // On the threshold the emission angle is still measured.
     Calc_EmissionAngle(0, 0, 0, 0, 0, 0.0, 0.0, 0.0, 1e-9, 0.0, 0.0, 0.0, &angle, &to_path,
                        &to_body);
     EXPECT_EQ(angle, 0.0);

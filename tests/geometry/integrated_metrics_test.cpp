@@ -8,22 +8,21 @@ TEST(InterpIntegratedMetrics, ResamplesOnHalfStepsThroughTheCentre) {
     std::vector<double> const x = {0.0, 1.0, 2.0};
     std::vector<double> const y1 = {0.0, 10.0, 30.0}, y2 = {1.0, 1.0, 3.0}, y3 = {5.0, 4.0, 3.0};
     std::vector<double> out1(5, -1.0), out2(5, -1.0), out3(5, -1.0), shared(5, -1.0);
-    std::size_t const count = 3, two = 2, one = 1;
-    interpIntegratedMetrics(1, x, y1, y2, y3, count, out1, out2, out3);
+    interpIntegratedMetrics(1, x, y1, y2, y3, 3, out1, out2, out3);
     EXPECT_EQ(out1, (std::vector<double>{0.0, 5.0, 10.0, 20.0, 30.0}));
     EXPECT_EQ(out2, (std::vector<double>{1.0, 1.0, 1.0, 2.0, 3.0}));
     EXPECT_EQ(out3, (std::vector<double>{5.0, 4.5, 4.0, 3.5, 3.0}));
     // Written in the order third, first, second: with one output for all, the second wins.
-    interpIntegratedMetrics(1, x, y1, y2, y3, count, shared, shared, shared);
+    interpIntegratedMetrics(1, x, y1, y2, y3, 3, shared, shared, shared);
     EXPECT_EQ(shared, out2);
 
     // Off the half-step phase: left 1, right 0, grid 0.2 + fmod(0.8, 0.5) and then 1.0.
     std::vector<double> const xs = {0.2, 1.0}, ys = {0.0, 8.0};
     std::vector<double> out(2, -1.0), untouched(1, -1.0);
-    interpIntegratedMetrics(1, xs, ys, ys, ys, two, out, out, out);
+    interpIntegratedMetrics(1, xs, ys, ys, ys, 2, out, out, out);
     EXPECT_NEAR(out[0], 3.0, 1e-12);
     EXPECT_EQ(out[1], 8.0);
-    interpIntegratedMetrics(0, x, y1, y2, y3, one, untouched, untouched, untouched);
+    interpIntegratedMetrics(0, x, y1, y2, y3, 1, untouched, untouched, untouched);
     EXPECT_EQ(untouched[0], -1.0);
 }
 

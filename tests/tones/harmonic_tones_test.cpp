@@ -1,27 +1,22 @@
-#include <calc-common/tones.hpp>
-
 #include "tone_test_support.hpp"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
+#include <tuple>
 
 using namespace tone_test;
 
 namespace {
-
-#include "tone_reference.inc"
 
 struct harmonic_split {
     boost::shared_ptr<spectrum_t> broadband = spectrum_t::create_tob();
     boost::shared_ptr<spectrum_t> tones = spectrum_t::create_tob();
 };
 
-void separate(std::vector<double> const& levels, double fundamental, harmonic_split& split) {
+// Separates into `split`, by default two fresh spectra with no tones listed.
+harmonic_split separate(std::vector<double> const& levels, double fundamental,
+                        harmonic_split split = {}) {
     Calc_EnscaBBTones(tob_spectrum(levels), 1.0, 125.0, fundamental, 0.0,
                       tone_sep_slope_differences, 2.0, 3.0, split.broadband, split.tones);
+    return split;
 }
 
 } // namespace
@@ -31,8 +26,7 @@ TEST(EnscaBBTones, WorkedExampleWithSharedBandsAndRepeatedCalls) {
     // band 15 holds parts of harmonics 3 and 4 (redistributed to its neighbours) and band 16
     // parts of 4 and 5 (lowered by 3 dB).
     std::vector<double> const levels(harmonic_levels, harmonic_levels + 24);
-    harmonic_split split;
-    separate(levels, harmonic_fundamental, split);
+    harmonic_split const split = separate(levels, harmonic_fundamental);
     expect_levels_near(split.broadband->values, ensca_first_broadband, 1e-9, "broadband");
     expect_levels_near(split.tones->values, ensca_first_tones, 1e-9, "tones");
     ASSERT_EQ(split.tones->tones.size(), 5u);
@@ -53,10 +47,9 @@ TEST(EnscaBBTones, WorkedExampleWithSharedBandsAndRepeatedCalls) {
 
 TEST(EnscaBBTones, OnlyHarmonicsMoreThanThreeDecibelsAboveTheFloorAreTones) {
     // 1 kHz is clear of its band edges (grid band 13).
-    harmonic_split split;
     std::vector<double> levels = flat_with_peak(50.0, 13, 53.0);
     levels[5] = 80.0; // strong, but no harmonic of 1 kHz
-    separate(levels, 1000.0, split);
+    harmonic_split const split = separate(levels, 1000.0);
     EXPECT_EQ(split.tones->values, std::vector<double>(24, 0.0));
     EXPECT_EQ(split.broadband->values, levels);
     ASSERT_EQ(split.tones->tones.size(), 5u) << "listed although silent";
@@ -64,36 +57,27 @@ TEST(EnscaBBTones, OnlyHarmonicsMoreThanThreeDecibelsAboveTheFloorAreTones) {
 
     // Half a decibel more: the tone holds the excess over the 50 dB floor, which stays, and the
     // two add up to the input.
-    harmonic_split stronger;
-    separate(flat_with_peak(50.0, 13, 53.5), 1000.0, stronger);
-    double const excess = 10.0 * std::log10(energy(53.5) - energy(50.0));
-    EXPECT_NEAR(stronger.tones->values[13], excess, 1e-12);
+    harmonic_split const stronger = separate(flat_with_peak(50.0, 13, 53.5), 1000.0);
+    EXPECT_NEAR(stronger.tones->values[13], 10.0 * std::log10(energy(53.5) - energy(50.0)), 1e-12);
     EXPECT_EQ(stronger.broadband->values[13], 50.0);
 }
 
 TEST(EnscaBBTones, NothingIsReadOrWrittenOffTheGrid) {
     // At 20 Hz harmonics 1 and 2 lie below the grid and are skipped. 44 Hz lies below the grid,
     // in the overlap with band 0, and is not listed. At 5.6 kHz harmonics 3 to 5 lie above it.
-    struct row {
-        double fundamental;
-        std::size_t listed;
-        double first_harmonic;
-        int first_band;
-    };
-    for (row const r : {row{20.0, 3, 3.0, 1}, row{44.0, 4, 2.0, 2}, row{5600.0, 2, 1.0, 20}}) {
-        harmonic_split split;
-        separate(std::vector<double>(24, 50.0), r.fundamental, split);
-        ASSERT_EQ(split.tones->tones.size(), r.listed) << r.fundamental;
-        EXPECT_EQ(split.tones->tones[0].bpf_harmonic, r.first_harmonic) << r.fundamental;
-        EXPECT_EQ(split.tones->tones[0].band_index, r.first_band) << r.fundamental;
+    for (auto const& [fundamental, listed, first_harmonic, first_band] :
+         {std::tuple{20.0, 3u, 3.0, 1}, {44.0, 4u, 2.0, 2}, {5600.0, 2u, 1.0, 20}}) {
+        harmonic_split const split = separate(std::vector<double>(24, 50.0), fundamental);
+        ASSERT_EQ(split.tones->tones.size(), listed) << fundamental;
+        EXPECT_EQ(split.tones->tones[0].bpf_harmonic, first_harmonic) << fundamental;
+        EXPECT_EQ(split.tones->tones[0].band_index, first_band) << fundamental;
     }
 
     // A fundamental with no band yields no tone: all goes to broadband, and the tone list,
     // which holds tones below, at the foot of and above the grid, is unchanged. None of them
     // adds to a band.
     std::vector<double> const levels(harmonic_levels, harmonic_levels + 24);
-    for (double fundamental : {0.0, -453.45, std::numeric_limits<double>::quiet_NaN(),
-                               std::numeric_limits<double>::infinity()}) {
+    for (double fundamental : {0.0, -453.45, not_a_number, infinity}) {
         harmonic_split none;
         none.tones->tones = {tone_id_t::create_bpf(-1, 1.0, 40.0, 80.0),
                              tone_id_t::create_bpf(0, 2.0, 0.0, 80.0),

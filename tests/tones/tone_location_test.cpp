@@ -1,19 +1,9 @@
-#include <calc-common/tones.hpp>
-
 #include "tone_test_support.hpp"
 #include "tones/tone_location.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
 
 using namespace tone_test;
 
 namespace {
-
-#include "tone_reference.inc"
 
 // The spectrum form, checked against the array form it must agree with.
 split_levels slope_located(std::vector<double> const& levels) {
@@ -105,8 +95,7 @@ TEST(FrequencyLocator, BridgesFlaggedBandsAndRebuildsTheBaseline) {
     // A silent spectrum: the spectrum form runs on with a baseline of band 0 alone (every level
     // is broadband while the margin exceeds it, every band a tone for a negative margin); the
     // array form returns at once whatever the margin.
-    std::vector<double> silent(24, 0.0005);
-    silent[3] = 0.001;
+    std::vector<double> const silent = flat_with_peak(0.0005, 3, 0.001);
     EXPECT_EQ(frequency_located(silent, 2.0, 0.01).broadband, silent);
     EXPECT_EQ(frequency_located(silent, 2.0, -1.0).tones, silent);
     split_levels const array_form = frequency_located(silent, 2.0, -1.0, true);
@@ -122,14 +111,12 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
               (std::vector<double>{40.0, 42.0, 44.0, 46.0, 48.0}));
 
     // Two adjacent values: their line runs to both ends, below zero if it must.
-    std::vector<double> pair(24, 0.0);
-    pair[10] = 50.0;
+    std::vector<double> pair = flat_with_peak(0.0, 10, 50.0);
     pair[11] = 52.0;
     std::vector<double> const pair_filled = filled(pair);
     EXPECT_DOUBLE_EQ(pair_filled[0], 30.0);
     EXPECT_DOUBLE_EQ(pair_filled[23], 76.0);
-    std::vector<double> falling(24, 0.0);
-    falling[1] = 30.0;
+    std::vector<double> falling = flat_with_peak(0.0, 1, 30.0);
     falling[2] = 10.0;
     EXPECT_DOUBLE_EQ(filled(falling)[23], 10.0 - 20.0 * 21.0);
 
@@ -146,14 +133,13 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
     spectrum->values[6] = 0.0;
     Calc_InterpSpec(spectrum, -99.0);
     EXPECT_DOUBLE_EQ(spectrum->values[5], 25.0);
-    spectrum->values[5] = std::numeric_limits<double>::quiet_NaN();
+    spectrum->values[5] = not_a_number;
     Calc_InterpSpec(spectrum, 0.0);
     EXPECT_TRUE(std::isnan(spectrum->values[5]));
 
     // In the array form a level of exactly 0.1 is neither gap nor value: the gap before it
     // finds no value to close it and stays.
-    std::vector<double> levels(24, 50.0);
-    levels[1] = 0.05;
+    std::vector<double> levels = flat_with_peak(50.0, 1, 0.05);
     levels[2] = 0.1;
     VARNO::detail::Calc_InterpSpecArray(levels);
     EXPECT_EQ(levels[1], 0.05);
@@ -161,30 +147,22 @@ TEST(GapFilling, InterpolatesInnerGapsExtendsTheEndsAndKeepsNonGaps) {
 }
 
 TEST(HarmonicBands, ListsGridBandsTouchedByFiveHarmonics) {
-    struct row {
-        double fundamental;
-        std::vector<int> bands;
-    };
     // 1 to 5 kHz lie clear of their band edges. At 453.45 Hz harmonics 1, 2, 4 and 5 lie near a
     // lower edge and 3 near an upper one (edges 464.5, 926.9, 1358.2, 1849.4 and 2328.3 Hz).
     // 11.2 kHz is in the upper overlap of band 23, whose neighbour is off the grid. 44 Hz lies
     // below the grid in the overlap with band 0: only band 0 is listed. The rest have no band,
     // or higher harmonics that overflow.
-    double const nan = std::numeric_limits<double>::quiet_NaN();
-    double const inf = std::numeric_limits<double>::infinity();
-    row const rows[] = {{1000.0, {13, 16, 18, 19, 20}},
-                        {453.45, {9, 10, 12, 13, 14, 15, 16, 17}},
-                        {5600.0, {20, 21, 23}},
-                        {44.0, {0, 2, 3, 4, 5, 6, 7}},
-                        {5.0, {}},
-                        {0.0, {}},
-                        {-100.0, {}},
-                        {nan, {}},
-                        {inf, {}},
-                        {1e308, {}}};
-    for (row const& r : rows) {
+    std::pair<double, std::vector<int>> const rows[] = {{1000.0, {13, 16, 18, 19, 20}},
+                                                        {453.45, {9, 10, 12, 13, 14, 15, 16, 17}},
+                                                        {5600.0, {20, 21, 23}},
+                                                        {44.0, {0, 2, 3, 4, 5, 6, 7}},
+                                                        {5.0, {}},
+                                                        {0.0, {}},
+                                                        {not_a_number, {}},
+                                                        {1e308, {}}};
+    for (auto const& [fundamental, expected] : rows) {
         std::vector<int> bands{99};
-        VARNO::detail::Calc_HarmonicBands(r.fundamental, bands);
-        EXPECT_EQ(bands, r.bands) << r.fundamental << " Hz";
+        VARNO::detail::Calc_HarmonicBands(fundamental, bands);
+        EXPECT_EQ(bands, expected) << fundamental << " Hz";
     }
 }

@@ -2,6 +2,7 @@
 #define VARNO_TESTS_TONES_TONE_TEST_SUPPORT_HPP
 
 #include <calc-common/spectra.hpp>
+#include <calc-common/tones.hpp>
 
 #include "support/tob_spectrum.hpp"
 
@@ -9,12 +10,18 @@
 
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
 namespace tone_test {
 
+#include "tone_reference.inc"
+
 using test_support::tob_spectrum;
+
+double const not_a_number = std::numeric_limits<double>::quiet_NaN();
+double const infinity = std::numeric_limits<double>::infinity();
 
 inline boost::shared_ptr<spectrum_t> tob_filled_with(double level) {
     return tob_spectrum(std::vector<double>(24, level));
