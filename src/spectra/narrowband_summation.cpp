@@ -76,8 +76,8 @@ void sum_filtered_lines(frequency_range_t const& range, std::vector<double> cons
                         std::size_t columns, band_span span, std::vector<double>& energies) {
     double const* weights = filter_weights_of(range).data();
     // The band sums of a column are kept band after band in `sums`, where no weight can lie, so
-    // that the compiler adds a line's 24 products at once; each sum still takes the lines in
-    // order.
+    // that the compiler adds a line's 24 products at once over the whole grid (the sums of bands
+    // outside the span are left unread); each sum still takes the lines in order.
     std::vector<double>& sums = column_band_sums(columns);
     for (std::size_t k = 0; k < range.count; ++k, weights += band_count) {
         std::array<double, band_count> weight;
@@ -85,7 +85,7 @@ void sum_filtered_lines(frequency_range_t const& range, std::vector<double> cons
         for (std::size_t column = 0; column < columns; ++column) {
             double const energy = fast_energy_of_level(levels[k * columns + column]);
             double* const sum = &sums[column * band_count];
-            for (std::size_t band = span.first; band < span.last; ++band) {
+            for (std::size_t band = 0; band < band_count; ++band) {
                 sum[band] += energy * weight[band];
             }
         }
