@@ -111,9 +111,45 @@ void add_to_every_band(double energy, band_share const* first, band_share const*
     }
 }
 
+// One spectrum: the entries of a regular grid ascend by band, line after line, so each band's
+// sum is made whole in a register, still in line order, before the next band's begins.
+void sum_overlapping_lines_of_one_spectrum(overlap_shares const& shares,
+                                           std::vector<double> const& levels, std::size_t count,
+                                           band_span span, double* energies) {
+    std::size_t band = span.first;
+    double sum = 0.0;
+    auto const close_band = [&] {
+        if (band >= span.first && band < span.last) {
+            energies[band] += sum;
+        }
+        sum = 0.0;
+    };
+    for (std::size_t k = 0; k < count; ++k) {
+        band_share const* const first = shares.entries.data() + shares.first_entry[k];
+        band_share const* const last = shares.entries.data() + shares.first_entry[k + 1];
+        double const energy = fast_energy_of_level(levels[k]);
+        if (!std::isfinite(energy)) {
+            add_to_every_band(energy, first, last, span, energies, 1);
+            continue;
+        }
+        for (band_share const* part = first; part != last; ++part) {
+            if (part->band != band) {
+                close_band();
+                band = part->band;
+            }
+            sum += energy * part->share;
+        }
+    }
+    close_band();
+}
+
 void sum_overlapping_lines(frequency_range_t const& range, std::vector<double> const& levels,
                            std::size_t columns, band_span span, std::vector<double>& energies) {
     overlap_shares const& shares = overlap_shares_of(range);
+    if (columns == 1) {
+        sum_overlapping_lines_of_one_spectrum(shares, levels, range.count, span, energies.data());
+        return;
+    }
     for (std::size_t k = 0; k < range.count; ++k) {
         band_share const* first = shares.entries.data() + shares.first_entry[k];
         band_share const* last = shares.entries.data() + shares.first_entry[k + 1];
