@@ -83,6 +83,14 @@ TEST(TobConversion, LineWidthsAreSharedByTheirOverlapWithBands) {
     EXPECT_EQ(output->at(0), 0.0);
     EXPECT_EQ(output->at(2), 0.0);
     EXPECT_NEAR(output->at(3), 13.63174675619877, 1e-12);
+
+    // A band is filled only when the grid reaches half a line (5 Hz) below its lower edge: a
+    // grid from 35 Hz fills the 50 Hz band (from 44.7 Hz), one from 40 Hz does not.
+    for (double const f_start : {35.0, 40.0}) {
+        input = narrowband(f_start, 130.0, 10.0, 10.0);
+        ASSERT_EQ(convert_spectrum_to_tob(input, output, nbtob_width_overlap, 0), 0);
+        EXPECT_EQ(output->at(0) != 0.0, f_start == 35.0) << f_start;
+    }
 }
 
 TEST(TobConversion, FilteredLinesReachEveryBandThroughTheCurve) {
