@@ -153,3 +153,24 @@ TEST(LateralDistance, FixedPointsAndVerticalLines) {
     EXPECT_EQ(vertical.lateral, 0.0);
     EXPECT_EQ(vertical.least, 0.0);
 }
+
+// Only the observer's place relative to the source counts: moving both across the ground by one
+// step changes no distance and no angle.
+TEST(FlightLine, MovingSourceAndObserverTogetherChangesNothing) {
+    double const x = 700.0, y = -150.0;
+    double lateral[2], least[2];
+    impact heard[2];
+    for (int moved = 0; moved < 2; ++moved) {
+        double const sx = 250.0 * moved, sy = -120.0 * moved;
+        Calc_LateralDistance(12.0, 30.0, 0.0, 0.0, sx, sy, 300.0, x + sx, y + sy, 0.0, 1.2,
+                             lateral_distance_inex_normal(), &lateral[moved], &least[moved]);
+        impact& r = heard[moved];
+        r.status = Calc_ImpactAngle(288.15, 0.0, 0.3, 12.0, 30.0, 0.0, 0.0, sx, sy, 300.0, x + sx,
+                                    y + sy, 0.0, 0.0, &r.elevation, &r.delay, &r.distance);
+    }
+    EXPECT_NEAR(lateral[1], lateral[0], 1e-9);
+    EXPECT_NEAR(least[1], least[0], 1e-9);
+    ASSERT_EQ(heard[1].status, 0);
+    EXPECT_NEAR(heard[1].distance, heard[0].distance, 1e-9);
+    EXPECT_NEAR(heard[1].elevation, heard[0].elevation, 1e-9);
+}
