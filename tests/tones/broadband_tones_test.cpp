@@ -59,6 +59,10 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
     // neighbours' mean.
     EXPECT_EQ(check_tones(peak, {10}, 12, 3.0).tones[10], 0.0);
     EXPECT_EQ(check_tones(peak, {10}, 12, 2.0).tones[10], 53.0);
+    // A lower neighbour at 54 dB lifts that mean to 52 dB, within 2 dB of the tone.
+    std::vector<double> lifted = peak;
+    lifted[9] = 54.0;
+    EXPECT_EQ(check_tones(lifted, {10}, 12, 2.0).tones[10], 0.0);
     std::vector<double> beside = peak;
     beside[11] = 60.0;
     EXPECT_EQ(check_tones(beside, {10, 11}, 11, 1.0).tones[10], 0.0);
