@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -89,6 +90,35 @@ TEST(AzimuthAngle, SidesAndPlaneInABodyFrameWithZDown) {
             << "row " << i;
     }
     EXPECT_TRUE(std::isnan(Calc_AzimuthAngle(1, 2, 3, 101, 2, 3, 0, 0, 0, 0)));
+}
+
+// Yaw, pitch and roll together: a body axis is turned into the ground frame (z down) by the roll
+// about x, then the pitch about y, then the yaw about z, one plane rotation after another.
+TEST(AzimuthAngle, FollowsTheBodyAxesOfCombinedTurns) {
+    for (auto const [yaw, pitch, roll] : {std::array{30.0, 10.0, 20.0}, {-120.0, -25.0, 45.0}}) {
+        double const cy = std::cos(yaw * degrees_to_radians),
+                     sy = std::sin(yaw * degrees_to_radians);
+        double const cp = std::cos(pitch * degrees_to_radians);
+        double const sp = std::sin(pitch * degrees_to_radians);
+        double const cr = std::cos(roll * degrees_to_radians),
+                     sr = std::sin(roll * degrees_to_radians);
+        // The observer 100 along a sum of body axes (forward, lateral, lower); plane angle 0 is
+        // the plane through the lower axis, 90 the one through the nose.
+        auto const azimuth = [&](std::array<double, 3> v, double plane) {
+            v = {v[0], cr * v[1] - sr * v[2], sr * v[1] + cr * v[2]};
+            v = {cp * v[0] + sp * v[2], v[1], cp * v[2] - sp * v[0]};
+            v = {cy * v[0] - sy * v[1], sy * v[0] + cy * v[1], v[2]};
+            return Calc_AzimuthAngle(1.0, 2.0, 3.0, 1.0 + 100.0 * v[0], 2.0 + 100.0 * v[1],
+                                     3.0 + 100.0 * v[2], yaw, roll, pitch, plane);
+        };
+        SCOPED_TRACE(testing::Message() << yaw << ", " << pitch << ", " << roll);
+        EXPECT_NEAR(azimuth({0, 1, 0}, 0.0), 90.0, 1e-9);
+        EXPECT_NEAR(azimuth({0, -1, 0}, 0.0), -90.0, 1e-9);
+        EXPECT_NEAR(azimuth({0, 0, 1}, 0.0), 0.0, 1e-9);
+        EXPECT_NEAR(azimuth({0, 1, 1}, 0.0), 45.0, 1e-9);
+        EXPECT_NEAR(azimuth({1, 1, 0}, 90.0), 45.0, 1e-9);
+        EXPECT_NEAR(azimuth({1, -1, 0}, 90.0), -45.0, 1e-9);
+    }
 }
 
 TEST(ElevationAngle, BothFormsAndNoClamping) {
