@@ -95,9 +95,11 @@ TEST(DopplerizeTone, NeighbouringTonesAndTheEdgesOfTheGrid) {
     EXPECT_EQ(centred.shifted, flat_with_peak(0.0, 13, 65.0));
 
     // Near the lower edge with a tone below: the two bands are summed, and the unshifted
-    // spectrum shows both as measured while the shifted one holds the split tone.
+    // spectrum shows them and the tone above as measured while the shifted one holds the split
+    // tone.
     std::vector<double> pair = flat_with_peak(0.0, 10, 70.0);
     pair[9] = 64.0;
+    pair[11] = 66.0;
     doppler_outcome const summed = dopplerize(pair, 455.0);
     EXPECT_NEAR(summed.level, 10.0 * std::log10(energy(64.0) + energy(70.0)), 1e-12);
     EXPECT_EQ(summed.unshifted, pair);
