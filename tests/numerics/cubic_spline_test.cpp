@@ -31,6 +31,11 @@ TEST(SplineCubic, SecondDerivativesForEachEndConditionAndTheirPieces) {
     for (int i = 0; i < 5; ++i) {
         EXPECT_NEAR(cubic[i], 6.0 * t[i], 1e-12) << i;
     }
+    // ... and its derivatives between knots half a unit apart.
+    double slope = 0.0, curvature = 0.0;
+    EXPECT_NEAR(spline_cubic_val(5, t, y, cubic.get(), 1.3, &slope, &curvature), 0.897, 1e-12);
+    EXPECT_NEAR(slope, 3.0 * 1.69 - 1.0, 1e-12);
+    EXPECT_NEAR(curvature, 7.8, 1e-12);
 
     // The values are held by the reference values of the natural spline; here the derivatives
     // that come with them. First piece: y = 5/3 t - 2/3 t^3; the last knot has no curvature.
