@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -12,10 +13,17 @@ using namespace VARNO::detail;
 
 // Every reference fit runs through the rotations; here legs whose squares would overflow.
 TEST(Givens, RotationAnnihilatesThePivotWithoutOverflow) {
-    double ww = 1e300, cos = 0.0, sin = 0.0;
-    fpgivs(-1e300, ww, cos, sin);
-    EXPECT_DOUBLE_EQ(ww, std::sqrt(2.0) * 1e300);
-    EXPECT_DOUBLE_EQ(sin, -cos);
+    // Either leg the longer: {pivot, w, hypotenuse, cos, sin}.
+    double const half_root = std::sqrt(0.5);
+    for (auto const& [piv, w, hypotenuse, cos_expected, sin_expected] :
+         {std::array{-1e300, 1e300, std::sqrt(2.0) * 1e300, half_root, -half_root},
+          std::array{3e300, 4e300, 5e300, 0.8, 0.6}}) {
+        double ww = w, cos = 0.0, sin = 0.0;
+        fpgivs(piv, ww, cos, sin);
+        EXPECT_DOUBLE_EQ(ww, hypotenuse);
+        EXPECT_DOUBLE_EQ(cos, cos_expected);
+        EXPECT_DOUBLE_EQ(sin, sin_expected);
+    }
 }
 
 TEST(Fpchec, KnotsMustBeOrderedAndSupportedByData) {
