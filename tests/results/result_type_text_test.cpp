@@ -118,6 +118,7 @@ TEST(ResultTypeQueries, ClassesFollowTheAircraftsSource) {
         {result_type_t::create_engine_source(source(4), 1, true, component(7)), false, false, true,
          false, true, true}, // a whole source still answers by its component
         {engine(1, 5), false, false, false, false, true, false},
+        {engine(1, 2), false, false, false, false, true, false}, // buzz-saw
         {engine(3, 9), false, false, false, false, true, false}, // haystack
         {engine(9, 6), false, true, false, false, true, false},  // CROR component
         {engine(9, -1), false, true, true, false, false, true},
