@@ -34,16 +34,21 @@ doppler_outcome dopplerize(std::vector<double> const& tone_levels, double freque
 } // namespace
 
 TEST(SplitTone, SharesEnergyByDistanceFromTheLimitsAndWritesToneSpectra) {
-    // The shares near an edge are checked with the Doppler cases. A tone on the lower limit is
-    // all in the lower band; the upper one gets a share of zero, that is minus infinity dB.
+    // The shares near an edge are checked with the Doppler cases. A tone on either limit is all
+    // in that limit's band; the other gets a share of zero, that is minus infinity dB.
     double low = -1.0;
     double high = -1.0;
     Calc_SplitTone(60.0, 100.0, 100.0, 200.0, &low, &high);
     EXPECT_NEAR(low, 60.0, 1e-12);
     EXPECT_EQ(high, -infinity);
+    Calc_SplitTone(60.0, 200.0, 100.0, 200.0, &low, &high);
+    EXPECT_EQ(low, -infinity);
+    EXPECT_NEAR(high, 60.0, 1e-12);
 
     // Outside the overlap, and an overlap of no width, fail and zero both shares.
-    for (auto const& r : {std::array<double, 3>{99.0, 100.0, 200.0}, {150.0, 150.0, 150.0}}) {
+    for (auto const& r : {std::array<double, 3>{99.0, 100.0, 200.0},
+                          {201.0, 100.0, 200.0},
+                          {150.0, 150.0, 150.0}}) {
         low = high = -1.0;
         EXPECT_EQ(
             test_support::error_text([&] { Calc_SplitTone(60.0, r[0], r[1], r[2], &low, &high); }),
