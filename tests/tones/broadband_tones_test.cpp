@@ -78,10 +78,12 @@ TEST(CheckTones, GivesBackTonesUntilAPassChangesNothing) {
 }
 
 TEST(BBTones, WorkedExamplesWithBothLocators) {
-    std::vector<double> const levels(shaped_levels, shaped_levels + 24);
+    // The shaped spectrum, and the same with a bump that only the slope locator keeps as a tone.
     for (bb_tones_reference const& expected : bb_tones_cases) {
+        std::vector<double> const levels(expected.levels, expected.levels + 24);
         separated const split = bb_tones(levels, 250.0, expected.method);
-        std::string const what = "method " + std::to_string(expected.method);
+        std::string const what = "case " + std::to_string(&expected - bb_tones_cases) +
+                                 ", method " + std::to_string(expected.method);
         EXPECT_EQ(split.k, expected.k) << what;
         expect_levels_near(split.broadband, expected.broadband, 1e-12, what + ", broadband");
         expect_levels_near(split.tones, expected.tones, 1e-12, what + ", tones");
@@ -89,6 +91,7 @@ TEST(BBTones, WorkedExamplesWithBothLocators) {
 
     // At and below the cut index the input stands in the broadband: 3.15 kHz gives index 16, so
     // the tones at bands 8, 12 and 16 keep their full level there.
+    std::vector<double> const levels(shaped_levels, shaped_levels + 24);
     separated const high_cut = bb_tones(levels, 3150.0, 0);
     EXPECT_EQ(high_cut.k, 16);
     EXPECT_EQ(std::vector<double>(high_cut.broadband.begin(), high_cut.broadband.begin() + 17),

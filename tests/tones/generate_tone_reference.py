@@ -396,10 +396,15 @@ FUNDAMENTAL = 453.45
 # Bare locators on the shaped spectrum.
 FREQ_BB, FREQ_TN = loc_freq(SHAPED, 2.0, 3.0, True)
 
-# Calc_BBTones with both locators: check margin 1.5 dB, cut at 250 Hz (k = 5).
+# Calc_BBTones with both locators: check margin 1.5 dB, cut at 250 Hz (k = 5), on the shaped
+# spectrum and on it with a 3 dB bump at band 19, which the slope locator keeps as a tone and the
+# frequency locator does not.
+BUMPED = list(SHAPED)
+BUMPED[19] += 3.0
 BB_CASES = []
-for method in (0, 1):
-    BB_CASES.append(bb_tones(SHAPED, 1.5, 250.0, method, 2.0, 3.0))
+for levels in (SHAPED, BUMPED):
+    for method in (0, 1):
+        BB_CASES.append((method, levels, bb_tones(levels, 1.5, 250.0, method, 2.0, 3.0)))
 
 # Calc_EnscaBBTones with the slope locator, gap value 0.0, cut at 125 Hz, called twice.
 ENSCA_1 = ensca(HARMONIC, 1.0, 125.0, FUNDAMENTAL, 0.0, 0, 2.0, 3.0, [])
@@ -432,11 +437,12 @@ def main():
     lines.append("constexpr double harmonic_fundamental = %r;" % FUNDAMENTAL)
     lines.append("constexpr double frequency_locator_broadband[24] = %s;" % arr(FREQ_BB))
     lines.append("constexpr double frequency_locator_tones[24] = %s;" % arr(FREQ_TN))
-    lines.append("struct bb_tones_reference { int method; int k; double broadband[24]; "
-                 "double tones[24]; };")
+    lines.append("struct bb_tones_reference { int method; double levels[24]; int k; "
+                 "double broadband[24]; double tones[24]; };")
     lines.append("constexpr bb_tones_reference bb_tones_cases[] = {")
-    for method, (k, bb, tn) in zip((0, 1), BB_CASES):
-        lines.append("    {%d, %d, %s,\n     %s}," % (method, k, arr(bb), arr(tn)))
+    for method, levels, (k, bb, tn) in BB_CASES:
+        lines.append("    {%d, %s,\n     %d, %s,\n     %s}," % (method, arr(levels), k, arr(bb),
+                                                            arr(tn)))
     lines.append("};")
     for name, (bb, tn, tl) in (("first", ENSCA_1), ("second", ENSCA_2)):
         lines.append("constexpr double ensca_%s_broadband[24] = %s;" % (name, arr(bb)))
