@@ -64,9 +64,13 @@ TEST(EnscaBBTones, OnlyHarmonicsMoreThanThreeDecibelsAboveTheFloorAreTones) {
 
 TEST(EnscaBBTones, NothingIsReadOrWrittenOffTheGrid) {
     // At 20 Hz harmonics 1 and 2 lie below the grid and are skipped. 44 Hz lies below the grid,
-    // in the overlap with band 0, and is not listed. At 5.6 kHz harmonics 3 to 5 lie above it.
+    // in the overlap with band 0, and is not listed. At 5.6 kHz harmonics 3 to 5 lie above it,
+    // at 6 kHz harmonics 2 to 5 (12 kHz is in the band just above the grid's last).
     for (auto const& [fundamental, listed, first_harmonic, first_band] :
-         {std::tuple{20.0, 3u, 3.0, 1}, {44.0, 4u, 2.0, 2}, {5600.0, 2u, 1.0, 20}}) {
+         {std::tuple{20.0, 3u, 3.0, 1},
+          {44.0, 4u, 2.0, 2},
+          {5600.0, 2u, 1.0, 20},
+          {6000.0, 1u, 1.0, 21}}) {
         harmonic_split const split = separate(std::vector<double>(24, 50.0), fundamental);
         ASSERT_EQ(split.tones->tones.size(), listed) << fundamental;
         EXPECT_EQ(split.tones->tones[0].bpf_harmonic, first_harmonic) << fundamental;
