@@ -69,12 +69,31 @@ std::vector<double>& column_band_sums(std::size_t columns) {
     return sums;
 }
 
+// Method 1 on one spectrum: its 24 band sums stay in registers while the lines pass.
+void sum_filtered_lines_of_one_spectrum(double const* weights, std::vector<double> const& levels,
+                                        std::size_t count, band_span span, double* energies) {
+    std::array<double, band_count> sums{};
+    for (std::size_t k = 0; k < count; ++k, weights += band_count) {
+        double const energy = fast_energy_of_level(levels[k]);
+        for (std::size_t band = 0; band < band_count; ++band) {
+            sums[band] += energy * weights[band];
+        }
+    }
+    for (std::size_t band = span.first; band < span.last; ++band) {
+        energies[band] += sums[band];
+    }
+}
+
 // Method 1: every band of the span takes the line through its band-pass curve, centred on the
 // band's nominal frequency. The curve's weight 10^(-W/10), W = 10*log10(1 + (Q*detuning)^6),
 // is the power response itself, so it costs no power.
 void sum_filtered_lines(frequency_range_t const& range, std::vector<double> const& levels,
                         std::size_t columns, band_span span, std::vector<double>& energies) {
     double const* weights = filter_weights_of(range).data();
+    if (columns == 1) {
+        sum_filtered_lines_of_one_spectrum(weights, levels, range.count, span, energies.data());
+        return;
+    }
     // The band sums of a column are kept band after band in `sums`, where no weight can lie, so
     // that the compiler adds a line's 24 products at once over the whole grid (the sums of bands
     // outside the span are left unread); each sum still takes the lines in order.
