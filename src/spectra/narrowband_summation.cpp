@@ -130,8 +130,8 @@ void add_to_every_band(double energy, band_share const* first, band_share const*
     }
 }
 
-// One spectrum: the entries of a regular grid ascend by band, line after line, so each band's
-// sum is made whole in a register, still in line order, before the next band's begins.
+// Method 2 on one spectrum: the entries of a regular grid ascend by band, line after line, so
+// each band's sum is made whole in a register, still in line order, before the next one begins.
 void sum_overlapping_lines_of_one_spectrum(overlap_shares const& shares,
                                            std::vector<double> const& levels, std::size_t count,
                                            band_span span, double* energies) {
